@@ -1,0 +1,26 @@
+// The files of the real disk.
+#pragma once
+
+#include "core/Files.h"
+
+namespace wheelwright {
+
+#ifdef _WIN32
+inline constexpr char kPathSeparator = '\\';
+#else
+inline constexpr char kPathSeparator = '/';
+#endif
+
+// A file that nobody may write counts as read-only even for a user whom the system would let write,
+// such as root: the mark is there to protect the file.
+class DiskFiles : public Files {
+ public:
+  bool Exists(const std::string& path) const override;
+  std::string Read(const std::string& path) const override;
+  void Write(const std::string& path, std::string_view text) override;
+  void Copy(const std::string& from, const std::string& to) override;
+  void ClearAttributes(const std::string& path) override;
+  std::vector<std::string> List(const std::string& directory) const override;
+};
+
+}  // namespace wheelwright

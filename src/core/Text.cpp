@@ -1,0 +1,58 @@
+#include "core/Text.h"
+
+#include "core/CodePage.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace wheelwright {
+
+std::string_view TrimBlanks(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+std::string FoldedCase(std::string_view text) {
+  std::string folded(text);
+  std::transform(folded.begin(), folded.end(), folded.begin(), FoldCase);
+  return folded;
+}
+
+std::size_t FindIgnoringCase(std::string_view text, std::string_view folded, std::size_t from) {
+  if (from > text.size()) return std::string_view::npos;
+  const auto sameLetter = [](char inText, char inWord) { return FoldCase(inText) == inWord; };
+  const auto* const found = std::search(text.begin() + static_cast<std::ptrdiff_t>(from),
+                                        text.end(), folded.begin(), folded.end(), sameLetter);
+  if (found == text.end() && !folded.empty()) return std::string_view::npos;
+  return static_cast<std::size_t>(found - text.begin());
+}
+
+bool EqualsIgnoringCase(std::string_view left, std::string_view right) {
+  return left.size() == right.size() && CompareIgnoringCase(left, right) == 0;
+}
+
+int CompareIgnoringCase(std::string_view left, std::string_view right) {
+  const std::size_t common = std::min(left.size(), right.size());
+  for (std::size_t i = 0; i < common; ++i) {
+    const auto a = static_cast<unsigned char>(FoldCase(left[i]));
+    const auto b = static_cast<unsigned char>(FoldCase(right[i]));
+    if (a != b) return a < b ? -1 : 1;
+  }
+  if (left.size() == right.size()) return 0;
+  return left.size() < right.size() ? -1 : 1;
+}
+
+std::string PaddedBehind(std::string_view text, std::size_t width) {
+  std::string padded(text);
+  if (padded.size() < width) padded.append(width - padded.size(), ' ');
+  return padded;
+}
+
+std::string PaddedInFront(std::string_view text, std::size_t width) {
+  std::string padded;
+  if (text.size() < width) padded.append(width - text.size(), ' ');
+  return padded.append(text);
+}
+
+}  // namespace wheelwright

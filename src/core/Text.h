@@ -1,0 +1,39 @@
+// What all readers and writers do with texts. Texts are bytes in the code page; "blank" is the
+// character 32 alone.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace wheelwright {
+
+inline constexpr std::string_view kLineEnd = "\r\n";
+
+// The text without the blanks at both ends. Tabs stay.
+std::string_view TrimBlanks(std::string_view text);
+
+// The text with every capital letter of the code page as its lower-case letter.
+std::string FoldedCase(std::string_view text);
+
+// The position of the first occurrence at or behind `from`, ignoring case in the code page, or
+// npos. An empty word is found at once. `folded` must be in lower case already. Linear in the text
+// for words that don't repeat themselves.
+std::size_t FindIgnoringCase(std::string_view text, std::string_view folded, std::size_t from = 0);
+
+inline bool HoldsIgnoringCase(std::string_view text, std::string_view folded,
+                              std::size_t from = 0) {
+  return FindIgnoringCase(text, folded, from) != std::string_view::npos;
+}
+
+bool EqualsIgnoringCase(std::string_view left, std::string_view right);
+
+// The order of lists that sort themselves: by the code of the lower-case letters, a shorter text
+// before its continuations. Negative, zero or positive as left stands before, with or behind right.
+int CompareIgnoringCase(std::string_view left, std::string_view right);
+
+// The text filled with blanks up to the width; a longer text stays whole.
+std::string PaddedBehind(std::string_view text, std::size_t width);
+std::string PaddedInFront(std::string_view text, std::size_t width);
+
+}  // namespace wheelwright
