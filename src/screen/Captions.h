@@ -1,0 +1,37 @@
+// The captions that belong to no data field: frames, buttons, tabs and the labels of the colour
+// pages, with the entry of the language table that replaces each.
+#pragma once
+
+#include "screen/MainWindow.h"
+#include "screen/OtherWindows.h"
+
+#include <vector>
+
+namespace wheelwright {
+
+struct CaptionRow {
+  Captioned& control;
+  const char* design;  // UTF-8
+  int lang;            // kNoLang where a caption is never translated
+};
+
+struct TabCaptionRow {
+  TabGroup& group;
+  int tab;
+  const char* design;
+  int lang;
+};
+
+struct ColumnCaptionRow {
+  std::size_t column;
+  const char* design;
+  int lang;
+};
+
+std::vector<CaptionRow> CaptionsOf(FrmMain& main);
+std::vector<CaptionRow> CaptionsOf(FrmError& error);
+std::vector<CaptionRow> CaptionsOf(FrmExport& exporter);
+std::vector<TabCaptionRow> TabCaptionsOf(FrmMain& main);
+std::vector<ColumnCaptionRow> ColumnCaptions();
+
+}  // namespace wheelwright

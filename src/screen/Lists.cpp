@@ -1,0 +1,161 @@
+#include "screen/Lists.h"
+
+#include "core/Failure.h"
+#include "core/Text.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace wheelwright {
+namespace {
+
+bool StandsBefore(const std::string& left, const std::string& right) {
+  return CompareIgnoringCase(left, right) < 0;
+}
+
+}  // namespace
+
+RowList::RowList(Window& window, std::string name, Order order)
+    : Control(window, std::move(name)), order_(order) {}
+
+std::string RowList::Text() const {
+  return row_ == kNoRow ? std::string() : rows_[static_cast<std::size_t>(row_)];
+}
+
+void RowList::AddRow(std::string text) {
+  if (order_ == Order::Sorted) {
+    MergeSorted({std::move(text)});
+  } else {
+    rows_.push_back(std::move(text));
+  }
+  Tell(Aspect::Rows);
+}
+
+void RowList::AddRows(std::vector<std::string> texts) {
+  if (texts.empty()) return;
+  if (order_ == Order::Sorted) {
+    MergeSorted(std::move(texts));
+  } else {
+    rows_.insert(rows_.end(), std::make_move_iterator(texts.begin()),
+                 std::make_move_iterator(texts.end()));
+  }
+  Tell(Aspect::Rows);
+}
+
+// Each new text goes before the first greater row. Rows that a rename has put out of order stay as
+// they are; the merge passes them as they come.
+void RowList::MergeSorted(std::vector<std::string> texts) {
+  std::stable_sort(texts.begin(), texts.end(), StandsBefore);
+  std::vector<std::string> merged;
+  std::vector<bool> isNew;
+  merged.reserve(rows_.size() + texts.size());
+  isNew.reserve(merged.capacity());
+  auto next = texts.begin();
+  int chosen = kNoRow;
+  for (std::size_t row = 0; row < rows_.size(); ++row) {
+    for (; next != texts.end() && StandsBefore(*next, rows_[row]); ++next) {
+      merged.push_back(std::move(*next));
+      isNew.push_back(true);
+    }
+    if (static_cast<int>(row) == row_) chosen = static_cast<int>(merged.size());
+    merged.push_back(std::move(rows_[row]));
+    isNew.push_back(false);
+  }
+  merged.insert(merged.end(), std::make_move_iterator(next), std::make_move_iterator(texts.end()));
+  isNew.resize(merged.size(), true);
+  rows_ = std::move(merged);
+  row_ = chosen;
+  RowsJoined(isNew);
+}
+
+void RowList::RemoveRow(int row) {
+  CheckRow(row);
+  rows_.erase(rows_.begin() + row);
+  if (row == row_) {
+    row_ = kNoRow;
+  } else if (row < row_) {
+    --row_;
+  }
+  RowRemoved(row);
+  Tell(Aspect::Rows);
+}
+
+void RowList::ReplaceRow(int row, std::string text) {
+  CheckRow(row);
+  rows_[static_cast<std::size_t>(row)] = std::move(text);
+  Tell(Aspect::Content);
+}
+
+void RowList::Clear() { ReplaceAll({}); }
+
+void RowList::ReplaceAll(std::vector<std::string> rows) {
+  rows_ = std::move(rows);
+  row_ = kNoRow;
+  RowsCleared();
+  Tell(Aspect::Rows);
+}
+
+void RowList::Choose(int row) {
+  if (row < 0 || row >= Count()) throw Failure(FailureNumber::InvalidPropertyValue);
+  if (row == row_ && !runsClickOnSameRow) return;
+  ChooseByHand(row);
+}
+
+void RowList::ChooseByHand(int row) {
+  row_ = row;
+  Tell(Aspect::Choice);
+  Run(clicked);
+}
+
+void RowList::CheckRow(int row) const {
+  if (row < 0 || row >= Count()) throw Failure(FailureNumber::InvalidCall);
+}
+
+std::vector<int> MarkList::Marked() const {
+  std::vector<int> rows;
+  for (int row = 0; row < Count(); ++row) {
+    if (IsMarked(row)) rows.push_back(row);
+  }
+  return rows;
+}
+
+bool MarkList::IsMarked(int row) const {
+  const auto index = static_cast<std::size_t>(row);
+  return index < marked_.size() && marked_[index];
+}
+
+void MarkList::MarkByHand(const std::vector<int>& rows) {
+  std::vector<bool> marked(Rows().size(), false);
+  for (const int row : rows) {
+    if (row < 0 || row >= Count()) throw Failure(FailureNumber::InvalidPropertyValue);
+    marked[static_cast<std::size_t>(row)] = true;
+  }
+  marked_ = std::move(marked);
+  Tell(Aspect::Choice);
+}
+
+void MarkList::RemoveMarked() {
+  std::vector<std::string> kept;
+  for (int row = 0; row < Count(); ++row) {
+    if (!IsMarked(row)) kept.push_back(Rows()[static_cast<std::size_t>(row)]);
+  }
+  ReplaceAll(std::move(kept));
+}
+
+void MarkList::RowsJoined(const std::vector<bool>& isNew) {
+  std::vector<bool> moved(isNew.size(), false);
+  int old = 0;
+  for (std::size_t row = 0; row < isNew.size(); ++row) {
+    if (!isNew[row]) moved[row] = IsMarked(old++);
+  }
+  marked_ = std::move(moved);
+}
+
+void MarkList::RowRemoved(int row) {
+  if (row < static_cast<int>(marked_.size())) marked_.erase(marked_.begin() + row);
+}
+
+void MarkList::RowsCleared() { marked_.clear(); }
+
+}  // namespace wheelwright

@@ -1,0 +1,31 @@
+// One run of the program: what is known, what is shown, and the ports to the world outside. There
+// are no globals; every handler is given the session it works on.
+#pragma once
+
+#include "core/Files.h"
+#include "core/Settings.h"
+#include "core/Vars.h"
+#include "screen/Desktop.h"
+#include "screen/MainWindow.h"
+#include "screen/OtherWindows.h"
+
+namespace wheelwright {
+
+struct Session {
+  Session(Desktop& itsDesktop, Settings& itsSettings, Files& itsFiles)
+      : desktop(itsDesktop), settings(itsSettings), files(itsFiles) {}
+
+  Desktop& desktop;
+  Settings& settings;
+  Files& files;
+
+  Vars vars;
+  FrmMain main;
+  FrmError error;
+  FrmExport exporter;
+};
+
+// An entry of the language table as a message or caption in UTF-8.
+std::string Message(const Session& session, int langEntry);
+
+}  // namespace wheelwright

@@ -1,0 +1,137 @@
+// The windows as they are built: design captions, fixed entries, frames and pages, first states.
+#include "core/CodePage.h"
+#include "screen/Captions.h"
+#include "screen/DefinitionFields.h"
+#include "screen/FixedEntries.h"
+#include "screen/HandlingFields.h"
+#include "screen/MainWindow.h"
+#include "screen/OtherWindows.h"
+
+#include <string>
+#include <utility>
+
+namespace wheelwright {
+namespace {
+
+template <std::size_t... I>
+std::array<CheckBox, kFlagCount> FlagBoxes(Window& window, std::index_sequence<I...> /*numbers*/) {
+  return {CheckBox(window, "chkFlag" + std::to_string(I + 1))...};
+}
+
+void SetDesignCaptions(const std::vector<CaptionRow>& rows) {
+  for (const CaptionRow& row : rows) row.control.SetCaption(FromUnicode(row.design));
+}
+
+void BuildHandlingTabs(FrmMain& m) {
+  for (const HandlingField& field : kHandlingFields) {
+    if (field.tabRow == kNoTabRow) continue;
+    (m.*field.label).SetCaption(FromUnicode(field.caption));
+    (m.*field.label).PutInto(m.SSTab1, field.tab);
+    if (field.text != nullptr) (m.*field.text).PutInto(m.SSTab1, field.tab);
+    if (field.pick != nullptr) (m.*field.pick).PutInto(m.SSTab1, field.tab);
+    if (field.tick != nullptr) (m.*field.tick).PutInto(m.SSTab1, field.tab);
+    if (field.info == nullptr) continue;
+    (m.*field.info).SetCaption(FromUnicode(field.infoCaption));
+    (m.*field.info).PutInto(m.SSTab1, field.tab);
+  }
+  for (const CodeList& list : kCodeLists) {
+    for (const char* entry : list.entries) {
+      if (entry != nullptr) (m.*list.pick).AddRow(FromUnicode(entry));
+    }
+  }
+  for (std::size_t i = 0; i < kFlagCount; ++i) {
+    m.chkFlag[i].SetCaption(kFlagCaptions[i]);
+    m.chkFlag[i].PutInto(m.SSTab1, kFlagsTab);
+  }
+  m.picFrame.PutInto(m.SSTab1, kPictureTab);
+  m.picCar.PutInto(m.picFrame);
+  for (Control* control :
+       std::initializer_list<Control*>{&m.cmdNewCar, &m.cmdDeleteCar, &m.cmdImportCar,
+                                       &m.cmdExportCar, &m.frameAuthor, &m.frameDate}) {
+    control->PutInto(m.SSTab1, kMiscTab);
+  }
+  m.txtAuthor.PutInto(m.frameAuthor);
+  m.txtDate.PutInto(m.frameDate);
+  m.cmdNewCar.SetVisible(false);
+  m.cmdDeleteCar.SetVisible(false);
+  constexpr std::size_t kLongestName = 14;
+  m.txtAutoname.LimitTyping(kLongestName);
+}
+
+void BuildDefinitionTabs(FrmMain& m) {
+  for (const DefinitionField& field : kDefinitionFields) {
+    (m.*field.label).SetCaption(FromUnicode(field.caption));
+    (m.*field.label).PutInto(m.SSTab2, field.tab);
+    if (field.text != nullptr) (m.*field.text).PutInto(m.SSTab2, field.tab);
+    if (field.pick != nullptr) (m.*field.pick).PutInto(m.SSTab2, field.tab);
+    (m.*field.info).SetCaption(FromUnicode(field.infoCaption));
+    (m.*field.info).PutInto(m.SSTab2, field.tab);
+  }
+  m.cmbExtra1.PutInto(m.SSTab2, kPropertiesTab);
+  m.cmbTyp.AddRows(FixedEntries(kTypes));
+  m.cmbAnim.AddRows(FixedEntries(kAnimations));
+  m.cmbKlasse.AddRows(FixedEntries(kClasses));
+  m.cmbExtra1.AddRows(FixedEntries(kWheels));
+  m.picFrame2.PutInto(m.SSTab2, kDefinitionPictureTab);
+  m.picCar2.PutInto(m.picFrame2);
+}
+
+void BuildColorTabs(FrmMain& m) {
+  for (Control* control : std::initializer_list<Control*>{
+           &m.lstColors, &m.cmdNewColor, &m.cmdDeleteColor, &m.lblColorName, &m.txtColorName,
+           &m.lblRot, &m.HScroll1, &m.lblRotWert, &m.lblGrün, &m.HScroll2, &m.lblGrünWert,
+           &m.lblBlau, &m.HScroll3, &m.lblBlauWert, &m.picFarbe}) {
+    control->PutInto(m.SSTab3, kPaletteTab);
+  }
+  m.frameColors.PutInto(m.SSTab3, kPairsTab);
+  m.lstCarColors.PutInto(m.frameColors);
+  m.cmdRemColor.PutInto(m.frameColors);
+  m.frameAddColors.PutInto(m.SSTab3, kPairsTab);
+  for (Control* control :
+       std::initializer_list<Control*>{&m.lblColor1, &m.cmbColor1, &m.picColor1, &m.lblColor2,
+                                       &m.cmbColor2, &m.picColor2, &m.cmdAddColor}) {
+    control->PutInto(m.frameAddColors);
+  }
+}
+
+void DisableUntilFirstLoad(FrmMain& m) {
+  for (Control* control :
+       std::initializer_list<Control*>{&m.FrameAutos, &m.cmdSave, &m.cmdSaveAs, &m.cmdUndo,
+                                       &m.cmdBackup, &m.SSTab1, &m.SSTab2, &m.SSTab3}) {
+    control->SetEnabled(false);
+  }
+  m.SSTab2.SetVisible(false);
+  m.SSTab3.SetVisible(false);
+}
+
+}  // namespace
+
+FrmMain::FrmMain()
+    : Window("frmMain", "GTAViceCity PC-Version - Wheelwright"),
+      chkFlag(FlagBoxes(*this, std::make_index_sequence<kFlagCount>{})) {
+  SetDesignCaptions(CaptionsOf(*this));
+  SSTab1.SetTabs(std::vector<std::string>(kMiscTab + 1));
+  SSTab2.SetTabs(std::vector<std::string>(kDefinitionPictureTab + 1));
+  SSTab3.SetTabs(std::vector<std::string>(kPairsTab + 1));
+  for (const TabCaptionRow& row : TabCaptionsOf(*this))
+    row.group.SetTab(row.tab, FromUnicode(row.design));
+  cmbSprache.PutInto(FrameSprache);
+  cmbAutos.PutInto(FrameAutos);
+  cmbAutos.RunClickOnlyWhenRowChanges();
+  BuildHandlingTabs(*this);
+  BuildDefinitionTabs(*this);
+  BuildColorTabs(*this);
+  DisableUntilFirstLoad(*this);
+}
+
+FrmError::FrmError() : Window("frmError", "Errors") {
+  SetDesignCaptions(CaptionsOf(*this));
+  for (const ColumnCaptionRow& row : ColumnCaptions()) lstErrors.SetColumn(row.column, row.design);
+}
+
+FrmExport::FrmExport() : Window("frmExport", "Export") {
+  SetDesignCaptions(CaptionsOf(*this));
+  Spez.SetVisible(false);
+}
+
+}  // namespace wheelwright
