@@ -1,0 +1,19 @@
+// Reading handling.cfg.
+//
+//   ; comment                                        a ";" in the first 14 columns
+//   TAXI          1450.0 1.9 4.5 ...  0000003 0 1     a vehicle, 33 tokens
+//   % TAXI ...    ! TAXI ...    $ TAXI ...            lines of the special kinds, which name a
+//   vehicle
+#pragma once
+
+#include "screen/Session.h"
+
+namespace wheelwright {
+
+// Fills cmbAutos, txtAuthor, txtDate, the snapshot and the table of vehicles from the open file,
+// and the load problems window with what is wrong in its lines. The list must have been cleared.
+// Failure 9 if a special line names a vehicle that has no record yet, failure 6 past 32,767
+// vehicles.
+void LoadHandlingFile(Session& session);
+
+}  // namespace wheelwright

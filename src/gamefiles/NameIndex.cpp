@@ -1,0 +1,82 @@
+#include "gamefiles/NameIndex.h"
+
+#include "core/Text.h"
+
+#include <algorithm>
+
+namespace wheelwright {
+namespace {
+
+std::size_t PairOf(char first, char second) {
+  return static_cast<std::size_t>(static_cast<unsigned char>(first)) * 256U +
+         static_cast<unsigned char>(second);
+}
+
+}  // namespace
+
+NameIndex::NameIndex(const std::vector<std::string>& names)
+    : names_(names), alreadyHit_(names.size(), false) {
+  foldedNames_.reserve(names.size());
+  for (const std::string& name : names) {
+    exact_.Add(name);
+    const std::string& folded = foldedNames_.emplace_back(FoldedCase(name));
+    folded_.Add(folded);
+    lengths_.push_back(name.size());
+    if (folded.size() == 1) onlyOne_.set(static_cast<unsigned char>(folded[0]));
+    if (folded.size() > 1) firstTwo_.set(PairOf(folded[0], folded[1]));
+  }
+  std::sort(lengths_.begin(), lengths_.end());
+  lengths_.erase(std::unique(lengths_.begin(), lengths_.end()), lengths_.end());
+}
+
+const std::vector<NameHit>& NameIndex::Beginning(std::string_view line) {
+  hits_.clear();
+  for (const std::size_t length : lengths_) {
+    if (length > line.size()) break;
+    for (int at = exact_.First(line.substr(0, length)); at != TextIndex::kNone;
+         at = exact_.Next(at)) {
+      hits_.push_back({at, true});
+    }
+  }
+  SortHits();
+  return hits_;
+}
+
+const std::vector<NameHit>& NameIndex::Anywhere(std::string_view line) {
+  hits_.clear();
+  const std::string folded = FoldedCase(line);
+  AddFolded({});
+  for (std::size_t at = 0; at < folded.size(); ++at) {
+    const bool pairBegins =
+        at + 1 < folded.size() && firstTwo_.test(PairOf(folded[at], folded[at + 1]));
+    if (onlyOne_.test(static_cast<unsigned char>(folded[at]))) {
+      AddFolded(std::string_view(folded).substr(at, 1));
+    }
+    if (!pairBegins) continue;
+    for (const std::size_t length : lengths_) {
+      if (at + length > folded.size()) break;
+      if (length > 1) AddFolded(std::string_view(folded).substr(at, length));
+    }
+  }
+  for (NameHit& hit : hits_) {
+    alreadyHit_[static_cast<std::size_t>(hit.position)] = false;
+    hit.begins = line.starts_with(names_[static_cast<std::size_t>(hit.position)]);
+  }
+  SortHits();
+  return hits_;
+}
+
+void NameIndex::AddFolded(std::string_view part) {
+  const int first = folded_.First(part);
+  if (first == TextIndex::kNone || alreadyHit_[static_cast<std::size_t>(first)]) return;
+  alreadyHit_[static_cast<std::size_t>(first)] = true;
+  for (int at = first; at != TextIndex::kNone; at = folded_.Next(at)) hits_.push_back({at, false});
+}
+
+void NameIndex::SortHits() {
+  std::sort(hits_.begin(), hits_.end(), [](const NameHit& left, const NameHit& right) {
+    return left.position < right.position;
+  });
+}
+
+}  // namespace wheelwright
