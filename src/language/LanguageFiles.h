@@ -1,0 +1,22 @@
+// The language files "*.lng" beside the program. The position of a line is its meaning: line 1 is
+// entry 0 of the language table. Backslash and n, or backslash and N, stand for a line break.
+#pragma once
+
+#include "screen/Session.h"
+
+namespace wheelwright {
+
+// Lists the languages in cmbSprache, in the order of their names, and chooses the stored one or the
+// first. Without any language file a message is shown and the program ends. Failure 380 if the
+// stored language isn't there, failure 9 for a file of more than 221 lines.
+void DiscoverLanguages(Session& session);
+
+// The click of cmbSprache: loads and applies the chosen language, stores the choice, and shows the
+// vehicle anew, since some captions hang on it. Failures as above.
+void ChooseLanguage(Session& session);
+
+// Reads the file of the chosen language, if it is there, over the table and applies the table.
+// Entries behind the file's end stay as they are.
+void LoadChosenLanguage(Session& session);
+
+}  // namespace wheelwright
