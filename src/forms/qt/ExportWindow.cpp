@@ -1,0 +1,89 @@
+#include "forms/qt/ExportWindow.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QMargins>
+#include <QVBoxLayout>
+
+namespace wheelwright {
+namespace {
+
+// The design is in twentieths of a point, of which a pixel at 96 dots per inch has 15.
+constexpr int Pixels(int twentieths) { return twentieths / 15; }
+
+constexpr QSize kInnerSize(Pixels(5385), Pixels(4785));
+constexpr QSize kListSize(Pixels(2175), Pixels(3765));
+constexpr QSize kArrowSize(Pixels(615), Pixels(375));
+constexpr QSize kButtonSize(Pixels(1215), Pixels(375));
+constexpr int kLabelHeight = Pixels(255);
+constexpr QMargins kMargins(Pixels(120), Pixels(120), Pixels(90), Pixels(90));
+constexpr int kGap = Pixels(105);
+constexpr int kBelowLists = Pixels(75);
+constexpr int kBetweenArrows = Pixels(105);
+
+enum Column { kAvailable, kArrows, kChosen };
+
+void AddList(Label& caption, MarkList& list, Column column, QGridLayout& grid, QWidget* window,
+             MirrorSet& mirrors) {
+  LabelMirror& name = mirrors.Add(caption, window);
+  QWidget& rows = mirrors.Add(list, window).Widget();
+  rows.setMinimumSize(kListSize);
+  name.Name(rows);
+  name.Widget().setMinimumHeight(kLabelHeight);
+  grid.addWidget(&name.Widget(), 0, column);
+  grid.addWidget(&rows, 1, column);
+  grid.setColumnStretch(column, 1);
+}
+
+QWidget* Arrow(Button& button, QWidget* window, MirrorSet& mirrors) {
+  QWidget& arrow = mirrors.Add(button, window).Widget();
+  arrow.setMinimumSize(kArrowSize);
+  arrow.setMaximumWidth(kArrowSize.width());
+  return &arrow;
+}
+
+QLayout* Arrows(FrmExport& exporter, QWidget* window, MirrorSet& mirrors) {
+  auto* column = new QVBoxLayout;
+  column->setSpacing(0);
+  column->addWidget(Arrow(exporter.cmdAdd, window, mirrors));
+  column->addWidget(Arrow(exporter.cmdDel, window, mirrors));
+  column->addSpacing(kBetweenArrows);
+  column->addWidget(Arrow(exporter.cmdAddAll, window, mirrors));
+  column->addWidget(Arrow(exporter.cmdDelAll, window, mirrors));
+  column->addStretch();
+  return column;
+}
+
+QLayout* BottomRow(FrmExport& exporter, QWidget* window, MirrorSet& mirrors) {
+  QWidget& write = mirrors.Add(exporter.cmdExport, window).Widget();
+  QWidget& close = mirrors.Add(exporter.cmdClose, window).Widget();
+  QWidget& hidden = mirrors.Add(exporter.Spez, window).Widget();
+  write.setMinimumSize(kButtonSize);
+  close.setMinimumSize(kButtonSize);
+  auto* row = new QHBoxLayout;
+  row->setSpacing(kGap);
+  row->addWidget(&hidden);
+  row->addStretch();
+  row->addWidget(&write);
+  row->addWidget(&close);
+  return row;
+}
+
+}  // namespace
+
+ExportWindow::ExportWindow(FrmExport& exporter, EventEdge& edge, MirrorSet& mirrors, QWidget* owner)
+    : WindowShell(exporter, edge, owner) {
+  auto* grid = new QGridLayout;
+  grid->setSpacing(kGap);
+  AddList(exporter.lblExportCar, exporter.lst1, kAvailable, *grid, this, mirrors);
+  grid->addLayout(Arrows(exporter, this, mirrors), 1, kArrows);
+  AddList(exporter.lblExport, exporter.lst2, kChosen, *grid, this, mirrors);
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(kMargins);
+  column->setSpacing(kBelowLists);
+  column->addLayout(grid, 1);
+  column->addLayout(BottomRow(exporter, this, mirrors));
+  resize(kInnerSize);
+}
+
+}  // namespace wheelwright

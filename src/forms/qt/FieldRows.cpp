@@ -1,0 +1,45 @@
+#include "forms/qt/FieldRows.h"
+
+namespace wheelwright {
+namespace {
+
+enum Column { kLabelColumn, kInputColumn, kInfoColumn };
+
+}  // namespace
+
+FieldRows::FieldRows(QWidget& page, MirrorSet& mirrors)
+    : page_(page), mirrors_(mirrors), grid_(*new QGridLayout(&page)) {
+  const int gap = page.fontMetrics().height();
+  constexpr int kInputWidth = 24;  // in characters
+  constexpr int kInputShare = 3;
+  constexpr int kInfoShare = 2;
+  grid_.setContentsMargins(gap, gap, gap, gap);
+  grid_.setHorizontalSpacing(gap);
+  grid_.setVerticalSpacing(gap / 2);
+  grid_.setColumnMinimumWidth(kInputColumn, kInputWidth * page.fontMetrics().averageCharWidth());
+  grid_.setColumnStretch(kInputColumn, kInputShare);
+  grid_.setColumnStretch(kInfoColumn, kInfoShare);
+}
+
+void FieldRows::StartRow(Label& label) {
+  ++row_;
+  inputs_.clear();
+  label_ = &mirrors_.Add(label, &page_);
+  grid_.addWidget(&label_->Widget(), row_, kLabelColumn);
+}
+
+void FieldRows::Place(QWidget& input) {
+  inputs_.push_back(&input);
+  label_->Name(input);
+  grid_.addWidget(&input, row_, kInputColumn);
+}
+
+void FieldRows::AddInfo(Label& info) {
+  LabelMirror& mirror = mirrors_.Add(info, &page_);
+  for (QWidget* input : inputs_) mirror.Describe(*input);
+  grid_.addWidget(&mirror.Widget(), row_, kInfoColumn);
+}
+
+void FieldRows::Finish() { grid_.setRowStretch(row_ + 1, 1); }
+
+}  // namespace wheelwright

@@ -1,0 +1,155 @@
+#include "forms/qt/ListMirrors.h"
+
+#include "forms/qt/PickBox.h"
+#include "forms/qt/QtText.h"
+
+#include <QScopedValueRollback>
+#include <QSignalBlocker>
+
+namespace wheelwright {
+namespace {
+
+RowModel& ModelOf(const RowList& list, QComboBox& widget) {
+  auto* model = new RowModel(list, &widget);
+  widget.setModel(model);
+  return *model;
+}
+
+RowModel& ModelOf(const RowList& list, RowView& widget) {
+  auto* model = new RowModel(list, &widget);
+  widget.setModel(model);
+  return *model;
+}
+
+std::vector<int> ChosenRows(const RowList& list) {
+  return list.Row() == RowList::kNoRow ? std::vector<int>{} : std::vector<int>{list.Row()};
+}
+
+QString Joined(const std::vector<int>& rows) {
+  QString text;
+  for (const int row : rows) text += QString::number(row) + " ";
+  return text;
+}
+
+// The texts that the widget's model gives, one a line.
+QString ShownRows(const QAbstractItemModel& model) {
+  QString text;
+  for (int row = 0; row < model.rowCount(); ++row) {
+    text += model.index(row, 0).data().toString() + "\n";
+  }
+  return text;
+}
+
+QString MeantRows(const RowList& list) {
+  QString text;
+  for (const std::string& row : list.Rows()) text += Shown(row) + "\n";
+  return text;
+}
+
+}  // namespace
+
+PickListMirror::PickListMirror(PickList& list, EventEdge& edge, QWidget* parent)
+    : Mirror(list, edge, *new PickBox(parent)),
+      list_(list),
+      widget_(static_cast<QComboBox&>(Widget())),
+      model_(ModelOf(list, widget_)) {
+  QObject::connect(&widget_, &QComboBox::activated, Receiver(), [this](int row) { Chosen(row); });
+  FollowAll();
+}
+
+void PickListMirror::Chosen(int row) {
+  ByHand([&] { list_.ChooseByHand(row); });
+  Follow(Aspect::Choice);
+}
+
+// The widget chooses a row of its own whenever it gets other rows.
+void PickListMirror::Follow(Aspect aspect) {
+  const QSignalBlocker blocker(widget_);
+  if (aspect == Aspect::Rows) model_.RowsChanged();
+  if (aspect == Aspect::Content) model_.TextsChanged();
+  widget_.setCurrentIndex(list_.Row());
+}
+
+std::string PickListMirror::ContentDifference() const {
+  const std::string rows = Compare("rows", ShownRows(*widget_.model()), MeantRows(list_));
+  if (!rows.empty()) return rows;
+  const std::string text = Compare("text", widget_.currentText(), Shown(list_.Text()));
+  return text.empty() ? Compare("row", widget_.currentIndex(), list_.Row()) : text;
+}
+
+ListBoxMirror::ListBoxMirror(ListBox& list, EventEdge& edge, QWidget* parent)
+    : Mirror(list, edge, *new RowView(QAbstractItemView::SingleSelection, parent)),
+      list_(list),
+      widget_(static_cast<RowView&>(Widget())),
+      model_(ModelOf(list, widget_)) {
+  QObject::connect(widget_.selectionModel(), &QItemSelectionModel::selectionChanged, Receiver(),
+                   [this] { SelectionChanged(); });
+  widget_.chosenAgain = [this](int row) { Chosen(row); };
+  FollowAll();
+}
+
+void ListBoxMirror::SelectionChanged() {
+  if (isFollowing_) return;
+  const std::vector<int> rows = widget_.SelectedRows();
+  if (rows.empty()) {
+    Follow(Aspect::Choice);
+  } else {
+    Chosen(rows.front());
+  }
+}
+
+void ListBoxMirror::Chosen(int row) {
+  ByHand([&] { list_.ChooseByHand(row); });
+  Follow(Aspect::Choice);
+}
+
+void ListBoxMirror::Follow(Aspect aspect) {
+  const QScopedValueRollback following(isFollowing_, true);
+  if (aspect == Aspect::Rows) model_.RowsChanged();
+  if (aspect == Aspect::Content) model_.TextsChanged();
+  const std::vector<int> chosen = ChosenRows(list_);
+  if (widget_.SelectedRows() == chosen) return;
+  widget_.SelectRows(chosen);
+  if (chosen.empty()) return;
+  widget_.selectionModel()->setCurrentIndex(model_.index(list_.Row()),
+                                            QItemSelectionModel::NoUpdate);
+  if (aspect == Aspect::Choice) widget_.scrollTo(model_.index(list_.Row()));
+}
+
+std::string ListBoxMirror::ContentDifference() const {
+  const std::string rows = Compare("rows", ShownRows(*widget_.model()), MeantRows(list_));
+  if (!rows.empty()) return rows;
+  return Compare("chosen rows", Joined(widget_.SelectedRows()), Joined(ChosenRows(list_)));
+}
+
+MarkListMirror::MarkListMirror(MarkList& list, EventEdge& edge, QWidget* parent)
+    : Mirror(list, edge, *new RowView(QAbstractItemView::ExtendedSelection, parent)),
+      list_(list),
+      widget_(static_cast<RowView&>(Widget())),
+      model_(ModelOf(list, widget_)) {
+  QObject::connect(widget_.selectionModel(), &QItemSelectionModel::selectionChanged, Receiver(),
+                   [this] { SelectionChanged(); });
+  FollowAll();
+}
+
+void MarkListMirror::SelectionChanged() {
+  if (isFollowing_) return;
+  ByHand([this] { list_.MarkByHand(widget_.SelectedRows()); });
+  Follow(Aspect::Choice);
+}
+
+void MarkListMirror::Follow(Aspect aspect) {
+  const QScopedValueRollback following(isFollowing_, true);
+  if (aspect == Aspect::Rows) model_.RowsChanged();
+  if (aspect == Aspect::Content) model_.TextsChanged();
+  const std::vector<int> marked = list_.Marked();
+  if (widget_.SelectedRows() != marked) widget_.SelectRows(marked);
+}
+
+std::string MarkListMirror::ContentDifference() const {
+  const std::string rows = Compare("rows", ShownRows(*widget_.model()), MeantRows(list_));
+  if (!rows.empty()) return rows;
+  return Compare("marked rows", Joined(widget_.SelectedRows()), Joined(list_.Marked()));
+}
+
+}  // namespace wheelwright

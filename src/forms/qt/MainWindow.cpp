@@ -1,0 +1,88 @@
+#include "forms/qt/MainWindow.h"
+
+#include "forms/qt/Pages.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+namespace wheelwright {
+namespace {
+
+QWidget* FramedPick(Frame& frame, PickList& pick, QWidget* window, MirrorSet& mirrors) {
+  FrameMirror& mirror = mirrors.Add(frame, window);
+  QWidget& input = mirrors.Add(pick, &mirror.Box()).Widget();
+  mirror.Name(input);
+  (new QVBoxLayout(&mirror.Box()))->addWidget(&input);
+  return &mirror.Box();
+}
+
+QLayout* LeftColumn(FrmMain& main, QWidget* window, MirrorSet& mirrors) {
+  auto* column = new QVBoxLayout;
+  column->setSpacing(window->fontMetrics().height() / 2);
+  column->addWidget(FramedPick(main.FrameSprache, main.cmbSprache, window, mirrors));
+  column->addWidget(FramedPick(main.FrameAutos, main.cmbAutos, window, mirrors));
+  column->addSpacing(column->spacing());
+  for (Button* button :
+       {&main.cmdOpen, &main.cmdSave, &main.cmdSaveAs, &main.cmdUndo, &main.cmdBackup}) {
+    column->addWidget(&mirrors.Add(*button, window).Widget());
+  }
+  column->addStretch();
+  return column;
+}
+
+// The group that shows takes the space of the greatest, so that the window stays as it is.
+TabGroupMirror& AddGroup(TabGroup& group, QWidget* window, QGridLayout* spot, MirrorSet& mirrors) {
+  TabGroupMirror& mirror = mirrors.Add(group, window);
+  QSizePolicy policy = mirror.Widget().sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  mirror.Widget().setSizePolicy(policy);
+  spot->addWidget(&mirror.Widget(), 0, 0);
+  return mirror;
+}
+
+QLayout* TabGroups(FrmMain& main, QWidget* window, MirrorSet& mirrors) {
+  auto* spot = new QGridLayout;
+  BuildHandlingPages(main, AddGroup(main.SSTab1, window, spot, mirrors), mirrors);
+  BuildDefinitionPages(main, AddGroup(main.SSTab2, window, spot, mirrors), mirrors);
+  BuildColorPages(main, AddGroup(main.SSTab3, window, spot, mirrors), mirrors);
+  return spot;
+}
+
+QLayout* BottomRow(FrmMain& main, QWidget* window, MirrorSet& mirrors) {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(window->fontMetrics().height() / 2);
+  row->addWidget(&mirrors.Add(main.cmdHelp, window).Widget());
+  row->addWidget(&mirrors.Add(main.cmdInfo, window).Widget());
+  row->addStretch();
+  row->addWidget(&mirrors.Add(main.cmdEnde, window).Widget());
+  return row;
+}
+
+// A disabled button takes no click from its key either.
+void GiveKey(QKeySequence::StandardKey key, const Button& button, QWidget* window,
+             const MirrorSet& mirrors) {
+  auto* clicked = &static_cast<QPushButton&>(mirrors.Of(button).Widget());
+  QObject::connect(new QShortcut(key, window), &QShortcut::activated, clicked, &QPushButton::click);
+}
+
+}  // namespace
+
+MainWindow::MainWindow(FrmMain& main, EventEdge& edge, MirrorSet& mirrors)
+    : WindowShell(main, edge, nullptr) {
+  auto* grid = new QGridLayout(this);
+  grid->setHorizontalSpacing(fontMetrics().height());
+  grid->setColumnStretch(1, 1);
+  grid->setRowStretch(0, 1);
+  grid->addLayout(LeftColumn(main, this, mirrors), 0, 0, 2, 1);
+  grid->addLayout(TabGroups(main, this, mirrors), 0, 1);
+  grid->addLayout(BottomRow(main, this, mirrors), 1, 1);
+  GiveKey(QKeySequence::Open, main.cmdOpen, this, mirrors);
+  GiveKey(QKeySequence::Save, main.cmdSave, this, mirrors);
+  GiveKey(QKeySequence::SaveAs, main.cmdSaveAs, this, mirrors);
+  GiveKey(QKeySequence::HelpContents, main.cmdHelp, this, mirrors);
+  GiveKey(QKeySequence::Quit, main.cmdEnde, this, mirrors);
+}
+
+}  // namespace wheelwright

@@ -1,0 +1,60 @@
+#include "forms/qt/ReportListMirror.h"
+
+#include "forms/qt/QtText.h"
+
+#include <array>
+
+#include <QHeaderView>
+
+namespace wheelwright {
+namespace {
+
+constexpr std::array<int, ReportList::kColumns> kColumnWidths = {100, 160, 303};
+
+ReportModel& ModelOf(const ReportList& list, QTreeView& widget) {
+  auto* model = new ReportModel(list, &widget);
+  widget.setModel(model);
+  return *model;
+}
+
+}  // namespace
+
+ReportListMirror::ReportListMirror(ReportList& list, EventEdge& edge, QWidget* parent)
+    : Mirror(list, edge, *new QTreeView(parent)),
+      list_(list),
+      widget_(static_cast<QTreeView&>(Widget())),
+      model_(ModelOf(list, widget_)) {
+  widget_.setRootIsDecorated(false);
+  widget_.setItemsExpandable(false);
+  widget_.setUniformRowHeights(true);
+  widget_.setEditTriggers(QAbstractItemView::NoEditTriggers);
+  widget_.setSelectionMode(QAbstractItemView::ExtendedSelection);
+  widget_.header()->setStretchLastSection(false);
+  for (std::size_t column = 0; column < kColumnWidths.size(); ++column) {
+    widget_.header()->resizeSection(static_cast<int>(column), kColumnWidths[column]);
+  }
+  FollowAll();
+}
+
+void ReportListMirror::Follow(Aspect aspect) {
+  if (aspect == Aspect::Rows) model_.RowsChanged();
+  if (aspect == Aspect::Content) model_.HeadersChanged();
+}
+
+std::string ReportListMirror::ContentDifference() const {
+  const QAbstractItemModel& shown = *widget_.model();
+  std::string difference =
+      Compare("number of rows", shown.rowCount(), static_cast<int>(list_.Rows().size()));
+  for (int column = 0; difference.empty() && column < shown.columnCount(); ++column) {
+    const auto index = static_cast<std::size_t>(column);
+    difference = Compare("header", shown.headerData(column, Qt::Horizontal).toString(),
+                         WithoutMarks(ShownCaption(list_.Columns().at(index))));
+    for (int row = 0; difference.empty() && row < shown.rowCount(); ++row) {
+      difference = Compare("cell", shown.index(row, column).data().toString(),
+                           Shown(list_.Rows()[static_cast<std::size_t>(row)].at(index)));
+    }
+  }
+  return difference;
+}
+
+}  // namespace wheelwright

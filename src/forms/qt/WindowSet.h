@@ -1,0 +1,38 @@
+// The three real windows of a session and everything in them. They follow the plain windows from
+// the moment they are built; each is on screen while its plain window is visible.
+#pragma once
+
+#include "forms/EventEdge.h"
+#include "forms/qt/ErrorWindow.h"
+#include "forms/qt/ExportWindow.h"
+#include "forms/qt/MainWindow.h"
+#include "forms/qt/MirrorSet.h"
+#include "screen/Session.h"
+
+namespace wheelwright {
+
+class WindowSet {
+ public:
+  // Needs the toolkit's application object. The session and the edge outlive the windows.
+  WindowSet(Session& session, EventEdge& edge);
+
+  // The real window of a plain one of this session.
+  WindowShell& Of(const Window& window);
+
+  // The widget of a plain control of this session.
+  QWidget& Of(const Control& control) const { return mirrors_.Of(control).Widget(); }
+
+  // What the screen shows otherwise than the plain control says; empty if they agree.
+  std::string Difference(const Control& control) const { return mirrors_.Of(control).Difference(); }
+
+ private:
+  // In this order, so that each goes before what it relies on: mirrors before widgets, windows
+  // before their owner.
+  Session& session_;
+  std::unique_ptr<MainWindow> main_;
+  std::unique_ptr<ErrorWindow> error_;
+  std::unique_ptr<ExportWindow> exporter_;
+  MirrorSet mirrors_;
+};
+
+}  // namespace wheelwright

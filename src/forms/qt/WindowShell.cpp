@@ -1,0 +1,40 @@
+#include "forms/qt/WindowShell.h"
+
+#include "forms/qt/QtText.h"
+
+#include <QCloseEvent>
+#include <QShortcut>
+
+namespace wheelwright {
+
+WindowShell::WindowShell(Window& window, EventEdge& edge, QWidget* owner)
+    : QWidget(owner, Qt::Window), window_(window), edge_(edge) {
+  setObjectName(QString::fromStdString(window.Name()));
+  setAttribute(Qt::WA_QuitOnClose, owner == nullptr);
+  setWindowTitle(ShownTitle(window.Title()));
+  window.notice = [this] { Follow(); };
+  if (owner == nullptr) return;
+  QObject::connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this,
+                   &QWidget::close);
+}
+
+WindowShell::~WindowShell() { window_.notice = nullptr; }
+
+void WindowShell::Follow() {
+  setWindowTitle(ShownTitle(window_.Title()));
+  if (isHidden() == window_.IsVisible()) setVisible(window_.IsVisible());
+}
+
+void WindowShell::closeEvent(QCloseEvent* event) {
+  edge_.Enter([this] { Run(window_.closeRequested); });
+  event->setAccepted(!window_.IsVisible());
+}
+
+std::string WindowShell::Difference() const {
+  if (windowTitle() != ShownTitle(window_.Title())) {
+    return "title \"" + windowTitle().toStdString() + "\" instead of \"" + window_.Title() + "\"";
+  }
+  return isHidden() == window_.IsVisible() ? "shown or hidden otherwise" : "";
+}
+
+}  // namespace wheelwright

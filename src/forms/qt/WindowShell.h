@@ -1,0 +1,35 @@
+// What the three real windows have in common: title, coming and going, and the close box.
+#pragma once
+
+#include "forms/EventEdge.h"
+#include "screen/Control.h"
+
+#include <functional>
+#include <string>
+
+#include <QWidget>
+
+namespace wheelwright {
+
+class WindowShell : public QWidget {
+ public:
+  // A window with an owner stays above it and is none the less not modal; Escape closes it as its
+  // close box does.
+  WindowShell(Window& window, EventEdge& edge, QWidget* owner);
+  ~WindowShell() override;
+
+  // What the window shows otherwise than the plain one says; empty if they agree.
+  std::string Difference() const;
+
+ protected:
+  // Asks the plain window's handler; the window only goes if the plain one has gone.
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void Follow();
+
+  Window& window_;
+  EventEdge& edge_;
+};
+
+}  // namespace wheelwright
