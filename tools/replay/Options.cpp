@@ -1,0 +1,20 @@
+#include "replay/Options.h"
+
+namespace wheelwright::replay {
+
+std::optional<Options> OptionsFrom(const std::vector<std::string>& arguments) {
+  Options options;
+  for (std::size_t i = 0; i < arguments.size(); ++i) {
+    if (arguments[i] == "--plain") {
+      options.plain = true;
+    } else if (arguments[i] == "--app" && i + 1 < arguments.size()) {
+      options.appDirectory = arguments[++i];
+    } else {
+      return std::nullopt;
+    }
+  }
+  if (options.appDirectory.empty()) return std::nullopt;
+  return options;
+}
+
+}  // namespace wheelwright::replay

@@ -1,0 +1,21 @@
+// The command line of the replay.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace wheelwright::replay {
+
+struct Options {
+  bool plain = false;
+  std::string appDirectory;  // UTF-8
+};
+
+inline constexpr const char* kUsage =
+    "usage: wheelwright-replay [--plain] --app DIR < script > result\n";
+
+// Nothing for a command line that can't be understood.
+std::optional<Options> OptionsFrom(const std::vector<std::string>& arguments);
+
+}  // namespace wheelwright::replay

@@ -1,0 +1,24 @@
+#include "replay/RealScreen.h"
+
+#include "forms/qt/PictureFile.h"
+
+#include <optional>
+#include <string>
+
+#include <QImage>
+
+namespace wheelwright::replay {
+namespace {
+
+std::optional<PictureSize> SizeOfReadPicture(const std::string& file) {
+  const QImage picture = ReadPicture(file);
+  if (picture.isNull()) return std::nullopt;
+  return PictureSize{picture.width(), picture.height()};
+}
+
+}  // namespace
+
+RealScreen::RealScreen(std::ostream& result)
+    : stage(result, SizeOfReadPicture), windows(stage.session, stage.edge), hands(windows) {}
+
+}  // namespace wheelwright::replay

@@ -1,0 +1,23 @@
+// A session with the real windows, each action through the real widget.
+#pragma once
+
+#include "forms/qt/WindowSet.h"
+#include "replay/Stage.h"
+#include "replay/Toolkit.h"
+#include "replay/WidgetHands.h"
+
+#include <ostream>
+
+namespace wheelwright::replay {
+
+struct RealScreen {
+  // The windows are built, none is on screen yet.
+  explicit RealScreen(std::ostream& result);
+
+  Toolkit toolkit;
+  Stage stage;
+  WindowSet windows;
+  WidgetHands hands;
+};
+
+}  // namespace wheelwright::replay

@@ -1,0 +1,26 @@
+#include "replay/Toolkit.h"
+
+#include <clocale>
+
+namespace wheelwright::replay {
+namespace {
+
+void UseOffscreenWithoutDisplay() {
+#ifdef Q_OS_LINUX
+  if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") &&
+      qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+  }
+#endif
+}
+
+}  // namespace
+
+Toolkit::Toolkit() {
+  UseOffscreenWithoutDisplay();
+  application_ = std::make_unique<QApplication>(argumentCount_, arguments_.data());
+  // The toolkit sets the user's locale, whose numbers may have a decimal comma.
+  std::setlocale(LC_NUMERIC, "C");
+}
+
+}  // namespace wheelwright::replay

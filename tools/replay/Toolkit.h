@@ -1,0 +1,26 @@
+// The window toolkit, ready for real windows with or without a display.
+#pragma once
+
+#include <array>
+#include <memory>
+
+#include <QApplication>
+
+namespace wheelwright::replay {
+
+class Toolkit {
+ public:
+  // Without a display the windows stand on the toolkit's offscreen platform.
+  Toolkit();
+  Toolkit(const Toolkit&) = delete;
+  Toolkit& operator=(const Toolkit&) = delete;
+
+ private:
+  // The toolkit keeps pointers to these.
+  std::array<char, 19> name_{"wheelwright-replay"};
+  std::array<char*, 2> arguments_{name_.data(), nullptr};
+  int argumentCount_ = 1;
+  std::unique_ptr<QApplication> application_;
+};
+
+}  // namespace wheelwright::replay
