@@ -7,6 +7,7 @@ declare -A PACKAGES=(
   [bench]="libbenchmark-dev"
   [fuzz]="clang libclang-rt-dev"
   [coverage]="gcovr"
+  [pictures]="librsvg2-bin imagemagick"
 )
 
 # The packages of the given purposes, in one line.

@@ -10,8 +10,8 @@ namespace {
 std::string WithoutMnemonicMarks(const std::string& caption) {
   std::string read;
   for (std::size_t i = 0; i < caption.size(); ++i) {
-    if (caption[i] == '&' && i + 1 < caption.size()) ++i;
-    read += caption[i];
+    if (caption[i] == '&') ++i;
+    if (i < caption.size()) read += caption[i];
   }
   return read;
 }

@@ -68,6 +68,7 @@ void BuildDefinitionTabs(FrmMain& m) {
     (m.*field.info).PutInto(m.SSTab2, field.tab);
   }
   m.cmbExtra1.PutInto(m.SSTab2, kPropertiesTab);
+  m.txtExtra1.SetVisible(false);  // it shares its spot with cmbExtra1
   m.cmbTyp.AddRows(FixedEntries(kTypes));
   m.cmbAnim.AddRows(FixedEntries(kAnimations));
   m.cmbKlasse.AddRows(FixedEntries(kClasses));

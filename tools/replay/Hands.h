@@ -1,12 +1,13 @@
-// What a person's hands can do at the windows. The plain hands act on the plain controls; the widget
-// hands go through the real widgets of a toolkit. Both are only asked for what a person could do now.
+// What a person's hands can do at the windows. The plain hands act on the plain controls; the
+// widget hands go through the real widgets of a toolkit. Both are only asked for what a person
+// could do now.
 #pragma once
-
-#include <string>
-#include <vector>
 
 #include "screen/Controls.h"
 #include "screen/Lists.h"
+
+#include <string>
+#include <vector>
 
 namespace wheelwright::replay {
 

@@ -130,10 +130,10 @@ Size SizeOfJpeg(std::string_view file) {
     }
     at += 2;
     if (StandsAlone(marker)) continue;
-    if (marker == kStartOfScan) return size;
     if (marker == kEndOfImage || at + 2 > file.size()) return {};
     const std::uint32_t length = BigEndian16(file, at);
     if (length < 2 || length > file.size() - at) return {};
+    if (marker == kStartOfScan) return size;
     if (IsFrame(marker)) size = SizeOfFrame(file.substr(at, length));
     if (IsFrame(marker) && !size) return {};
     at += length;

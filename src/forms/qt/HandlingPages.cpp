@@ -74,7 +74,10 @@ void BuildMisc(FrmMain& main, QWidget& page, MirrorSet& mirrors) {
   buttons->addWidget(&mirrors.Add(main.cmdDeleteCar, &page).Widget(), 0, 1);
   buttons->addWidget(&mirrors.Add(main.cmdImportCar, &page).Widget(), 1, 0);
   buttons->addWidget(&mirrors.Add(main.cmdExportCar, &page).Widget(), 1, 1);
-  buttons->setColumnStretch(2, 1);
+  // Buttons of the same width, a quarter of the page each.
+  buttons->setColumnStretch(0, 1);
+  buttons->setColumnStretch(1, 1);
+  buttons->setColumnStretch(2, 2);
   column->addLayout(buttons);
   auto* frames = new QHBoxLayout;
   frames->setSpacing(gap);

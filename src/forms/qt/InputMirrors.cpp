@@ -76,14 +76,14 @@ void TextBoxMirror::Edited(const QString& text) {
 }
 
 // A text that the program sets is shown from its start; one that a person is typing keeps the
-// cursor where it is.
+// cursor behind the same characters, of which the code page may lack some.
 void TextBoxMirror::Follow(Aspect aspect) {
   const QString text = Shown(box_.Text());
   if (aspect != Aspect::Content || widget_.text() == text) return;
   const QSignalBlocker blocker(widget_);
-  const int cursor = isBeingEdited_ ? widget_.cursorPosition() : 0;
+  const std::string before = InCodePage(widget_.text().left(widget_.cursorPosition()));
   widget_.setText(text);
-  widget_.setCursorPosition(cursor);
+  widget_.setCursorPosition(isBeingEdited_ ? static_cast<int>(before.size()) : 0);
 }
 
 std::string TextBoxMirror::ContentDifference() const {

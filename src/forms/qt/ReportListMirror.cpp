@@ -2,6 +2,7 @@
 
 #include "forms/qt/QtText.h"
 
+#include <algorithm>
 #include <array>
 
 #include <QHeaderView>
@@ -10,6 +11,20 @@ namespace wheelwright {
 namespace {
 
 constexpr std::array<int, ReportList::kColumns> kColumnWidths = {100, 160, 303};
+
+// The last column gives way to a vertical scroll bar, so that no horizontal one is needed.
+class ReportView : public QTreeView {
+ public:
+  using QTreeView::QTreeView;
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override {
+    QTreeView::resizeEvent(event);
+    const int last = header()->count() - 1;
+    const int room = viewport()->width() - header()->sectionPosition(last);
+    header()->resizeSection(last, std::min(room, kColumnWidths.back()));
+  }
+};
 
 ReportModel& ModelOf(const ReportList& list, QTreeView& widget) {
   auto* model = new ReportModel(list, &widget);
@@ -20,7 +35,7 @@ ReportModel& ModelOf(const ReportList& list, QTreeView& widget) {
 }  // namespace
 
 ReportListMirror::ReportListMirror(ReportList& list, EventEdge& edge, QWidget* parent)
-    : Mirror(list, edge, *new QTreeView(parent)),
+    : Mirror(list, edge, *new ReportView(parent)),
       list_(list),
       widget_(static_cast<QTreeView&>(Widget())),
       model_(ModelOf(list, widget_)) {
@@ -50,8 +65,9 @@ std::string ReportListMirror::ContentDifference() const {
     difference = Compare("header", shown.headerData(column, Qt::Horizontal).toString(),
                          WithoutMarks(ShownCaption(list_.Columns().at(index))));
     for (int row = 0; difference.empty() && row < shown.rowCount(); ++row) {
-      difference = Compare("cell", shown.index(row, column).data().toString(),
-                           Shown(list_.Rows()[static_cast<std::size_t>(row)].at(index)));
+      difference =
+          Compare("cell", shown.index(row, column).data().toString(),
+                  ReportModel::CellText(list_.Rows()[static_cast<std::size_t>(row)], index));
     }
   }
   return difference;

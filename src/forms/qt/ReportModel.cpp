@@ -7,6 +7,12 @@ namespace wheelwright {
 ReportModel::ReportModel(const ReportList& list, QObject* parent)
     : QAbstractTableModel(parent), list_(list) {}
 
+QString ReportModel::CellText(const ReportList::Row& row, std::size_t column) {
+  constexpr std::size_t kCaptionColumn = 1;
+  const std::string& text = row.at(column);
+  return column == kCaptionColumn ? WithoutMarks(ShownCaption(text)) : Shown(text);
+}
+
 int ReportModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : known_; }
 
 int ReportModel::columnCount(const QModelIndex& parent) const {
@@ -16,7 +22,7 @@ int ReportModel::columnCount(const QModelIndex& parent) const {
 QVariant ReportModel::data(const QModelIndex& index, int role) const {
   const auto row = static_cast<std::size_t>(index.row());
   if (role != Qt::DisplayRole || !index.isValid() || row >= list_.Rows().size()) return {};
-  return Shown(list_.Rows()[row].at(static_cast<std::size_t>(index.column())));
+  return CellText(list_.Rows()[row], static_cast<std::size_t>(index.column()));
 }
 
 QVariant ReportModel::headerData(int section, Qt::Orientation orientation, int role) const {

@@ -9,6 +9,9 @@ namespace wheelwright {
 
 class ReportModel : public QAbstractTableModel {
  public:
+  // A cell as it is read on screen. The second column holds captions of fields, whose marks go.
+  static QString CellText(const ReportList::Row& row, std::size_t column);
+
   ReportModel(const ReportList& list, QObject* parent);
 
   int rowCount(const QModelIndex& parent = {}) const override;
