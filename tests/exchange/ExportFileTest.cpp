@@ -1,0 +1,292 @@
+#include "exchange/ExportFile.h"
+#include "support/Exchange.h"
+
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+namespace wheelwright::testing {
+namespace {
+
+using Shown = std::vector<std::string>;
+
+const std::string kHead =
+    "; File created with Wheelwright V1.0.0\r\n"
+    "; Homepage: https://wheelwright.example/\r\n"
+    "; Author: \r\n"
+    "; Created \r\n"
+    ";\r\n"
+    "; > COMMENTS <\r\n"
+    "; ------------\r\n"
+    "; TWEAK AT YOUR OWN RISK\r\n"
+    ";\r\n"
+    "; > THE DATA <\r\n"
+    "; ------------\r\n"
+    ";\r\n";
+const std::string kTail = ";\r\n;the end\r\n";
+
+const std::string kTwoVehicles = CrLf({VehicleLineOf("TAXI"), VehicleLineOf("BUS", "5500.0")});
+
+void Cancel(TestSession& test) {
+  test.desktop.choices.emplace_back();
+  test.exporter.cmdExport.ClickByHand();
+}
+
+// The data lines of a session whose only vehicle has this record.
+std::string DataLinesOf(const Car& car) {
+  TestSession test;
+  test.OpenHandling(CrLf({VehicleLineOf("BUS")}));
+  test.vars.Cars.At(0) = car;
+  test.main.cmbAutos.ReplaceRow(0, car.CarName);
+  ChooseAllForExport(test);
+  const std::string file = ExportChosen(test);
+  EXPECT_TRUE(file.starts_with(kHead) && file.ends_with(kTail)) << file;
+  return file.substr(kHead.size(), file.size() - kHead.size() - kTail.size());
+}
+
+Car Bus() {
+  TestSession test;
+  test.OpenHandling(CrLf({VehicleLineOf("BUS")}));
+  return test.vars.Cars.At(0);
+}
+
+TEST(ExportVehicles, WithNothingOnTheRightDoesNothing) {
+  TestSession test;
+  test.OpenHandling(kTwoVehicles);
+  test.main.cmdExportCar.ClickByHand();
+  test.desktop.shown.clear();
+  test.exporter.cmdExport.ClickByHand();
+  EXPECT_EQ(test.desktop.shown, Shown{});
+  EXPECT_TRUE(test.exporter.IsVisible());
+}
+
+TEST(ExportVehicles, WritesTheWholeFile) {
+  TestSession test;
+  test.OpenHandling(
+      "; Author: Mira K\xF6nig\r\n"
+      "; Created 14 March 2004\r\n"
+      "TAXI\t1450.0  1.9 4.5 1.5 0.0 .1 -0.1 75 0.70 0.80 0.50 4 150.0 18.0 F P 9.1 0.60 0 35.0 "
+      "1.4 "
+      "0.09 0.20 0.50 200 0.25 -0.20 0.5 0 10000 0 1 ; the yellow one\r\n"
+      "BUS           25500.0 3.0 11.5 3.1 0 0 0 90 1,0 7e-1 0.46 4 110.0 10 R D 4.2 0.60 1 30.0 "
+      "1.2 "
+      "0.05 0.45 0.2 35000 0.3 -0.25 0.5 0.0 0008081 1 0\r\n");
+  ChooseAllForExport(test);
+  EXPECT_EQ(ExportChosen(test),
+            "; File created with Wheelwright V1.0.0\r\n"
+            "; Homepage: https://wheelwright.example/\r\n"
+            "; Author: Mira K\xF6nig\r\n"
+            "; Created 14 March 2004\r\n"
+            ";\r\n"
+            "; > COMMENTS <\r\n"
+            "; ------------\r\n"
+            "; TWEAK AT YOUR OWN RISK\r\n"
+            ";\r\n"
+            "; > THE DATA <\r\n"
+            "; ------------\r\n"
+            ";\r\n"
+            "BUS            25500.0 3.0 11.5 3.1 0 0 0 90 1,0 7e-1 0.46 4 110.0 10 R D 4.2 0.60 1 "
+            "30.0 1.2 0.05 0.45 0.2  35000 0.3 -0.25 0.5 0.0 0008081 1 0\r\n"
+            "TAXI            1450.0 1.9 4.5 1.5 0.0 .1 -0.1 75 0.70 0.80 0.50 4 150.0 18.0 F P 9.1 "
+            "0.60 0 35.0 1.4 0.09 0.20 0.50    200 0.25 -0.20 0.5 0 10000 0 1\r\n"
+            ";\r\n"
+            ";the end\r\n");
+}
+
+TEST(ExportVehicles, SaysSoAndUnloadsTheWindow) {
+  TestSession test;
+  test.OpenHandling(kTwoVehicles);
+  ChooseAllForExport(test);
+  test.desktop.shown.clear();
+  ExportChosen(test);
+  EXPECT_EQ(test.desktop.shown, (Shown{"save", "information: E113"}));
+  EXPECT_FALSE(test.exporter.IsVisible());
+  test.main.cmdExportCar.ClickByHand();
+  EXPECT_EQ(test.exporter.lst1.Rows(), (Shown{"BUS", "TAXI"}));
+  EXPECT_EQ(test.exporter.lst2.Rows(), Shown{});
+}
+
+TEST(ExportVehicles, ItsDialogKeepsNothingFromUseToUse) {
+  TestSession test;
+  test.OpenHandling(kTwoVehicles);
+  for (int use = 0; use < 2; ++use) {
+    ChooseAllForExport(test);
+    test.desktop.choices.push_back(FileChoice{kExportPath, 1});
+    test.exporter.cmdExport.ClickByHand();
+    const FileDialog& dialog = test.desktop.dialogs.back();
+    EXPECT_EQ(dialog.title, "");
+    EXPECT_EQ(dialog.filter, "E014 (*.cfg)|*.cfg|");
+    EXPECT_EQ(dialog.filterIndex, 0);
+    EXPECT_EQ(dialog.file, "");
+    EXPECT_EQ(dialog.flags, FileDialog::kOverwritePrompt);
+  }
+}
+
+TEST(ExportVehicles, ACancelEndsSilently) {
+  TestSession test;
+  test.OpenHandling(kTwoVehicles);
+  ChooseAllForExport(test);
+  test.desktop.shown.clear();
+  Cancel(test);
+  EXPECT_EQ(test.desktop.shown, Shown{"save"});
+  EXPECT_EQ(test.files.written, Shown{});
+  EXPECT_TRUE(test.exporter.IsVisible());
+  EXPECT_EQ(test.exporter.lst2.Rows(), (Shown{"BUS", "TAXI"}));
+}
+
+TEST(ExportVehicles, ReplacesWhatWasThereUnderTheNameAsChosen) {
+  TestSession test;
+  test.OpenHandling(CrLf({VehicleLineOf("BUS")}));
+  ChooseAllForExport(test);
+  test.files.contents["/swap/mine"] = std::string(5000, 'x');
+  test.desktop.choices.push_back(FileChoice{"/swap/mine", {}});
+  test.exporter.cmdExport.ClickByHand();
+  EXPECT_EQ(test.Disk("/swap/mine"), kHead + CrLf({VehicleLineOf("BUS")}) + kTail);
+  EXPECT_FALSE(test.files.contents.contains("/swap/mine.cfg"));
+}
+
+TEST(ExportVehicles, ChangesNothingOfTheSession) {
+  TestSession test;
+  test.OpenHandling(kTwoVehicles);
+  const std::vector<Car> loaded = test.vars.Cars.Walk();
+  ChooseAllForExport(test);
+  ExportChosen(test);
+  EXPECT_EQ(test.vars.Cars.Walk(), loaded);
+  EXPECT_TRUE(test.vars.IsSaved);
+  test.main.txtGewicht.EditByHand("1");
+  ChooseAllForExport(test);
+  ExportChosen(test);
+  EXPECT_FALSE(test.vars.IsSaved);
+}
+
+TEST(ExportVehicles, FollowsTheRightListAndNotTheTable) {
+  TestSession test;
+  test.OpenHandling(CrLf({VehicleLineOf("VAN"), VehicleLineOf("BUS"), VehicleLineOf("CAB")}));
+  test.main.cmdExportCar.ClickByHand();
+  test.exporter.lst1.MarkByHand({0, 2});
+  test.exporter.cmdAdd.ClickByHand();
+  EXPECT_EQ(ExportChosen(test), kHead + CrLf({VehicleLineOf("BUS"), VehicleLineOf("VAN")}) + kTail);
+}
+
+TEST(ExportVehicles, ATypedValueIsExportedThoughUnsaved) {
+  TestSession test;
+  test.OpenHandling(CrLf({VehicleLineOf("BUS")}));
+  ChooseAllForExport(test);
+  test.main.txtGewicht.EditByHand("77");
+  EXPECT_EQ(ExportChosen(test), kHead + CrLf({VehicleLineOf("BUS", "77")}) + kTail);
+}
+
+TEST(ExportVehicles, TheHeadTakesTheTextsOfTheMainWindowNow) {
+  TestSession test;
+  test.OpenHandling(CrLf({"; Author: Mira", "; Created 2004", VehicleLineOf("BUS")}));
+  ChooseAllForExport(test);
+  test.main.txtAuthor.EditByHand("Ole");
+  test.main.txtDate.EditByHand("today");
+  EXPECT_TRUE(ExportChosen(test).starts_with(
+      CrLf({"; File created with Wheelwright V1.0.0", "; Homepage: https://wheelwright.example/",
+            "; Author: Ole", "; Created today", ";"})));
+}
+
+TEST(ExportVehicles, ANameOfTwoRecordsGivesTwoLines) {
+  TestSession test;
+  test.OpenHandling(CrLf({VehicleLineOf("BUS", "1.0"), VehicleLineOf("CAB")}));
+  test.vars.Cars.ExtendTo(2);
+  test.vars.Cars.At(2) = test.vars.Cars.At(0);
+  test.vars.Cars.At(2).Mass = "2.0";
+  test.main.cmdExportCar.ClickByHand();
+  test.exporter.lst1.MarkByHand({0});
+  test.exporter.cmdAdd.ClickByHand();
+  EXPECT_EQ(ExportChosen(test),
+            kHead + CrLf({VehicleLineOf("BUS", "1.0"), VehicleLineOf("BUS", "2.0")}) + kTail);
+}
+
+TEST(ExportVehicles, NamesAreComparedWithCase) {
+  TestSession test;
+  test.OpenHandling(CrLf({VehicleLineOf("BUS", "1.0"), VehicleLineOf("Bus", "2.0")}));
+  test.main.cmdExportCar.ClickByHand();
+  test.exporter.lst1.MarkByHand({1});
+  test.exporter.cmdAdd.ClickByHand();
+  EXPECT_EQ(ExportChosen(test), kHead + CrLf({VehicleLineOf("Bus", "2.0")}) + kTail);
+}
+
+TEST(ExportVehicles, ARenamedVehicleLeavesTheHeadAlone) {
+  TestSession test;
+  test.OpenHandling(CrLf({VehicleLineOf("BUS")}));
+  ChooseAllForExport(test);
+  test.main.txtAutoname.EditByHand("COACH");
+  EXPECT_EQ(ExportChosen(test), kHead + kTail);
+  EXPECT_EQ(test.LastShown(), "information: E113");
+}
+
+TEST(ExportVehicles, ADeletedVehicleGivesNoLine) {
+  TestSession test;
+  test.OpenHandling(kTwoVehicles);
+  ChooseAllForExport(test);
+  test.desktop.answers = {true};
+  test.main.cmdDeleteCar.ClickByHand();
+  EXPECT_EQ(ExportChosen(test), kHead + CrLf({VehicleLineOf("TAXI")}) + kTail);
+}
+
+TEST(ExportVehicles, TheKindOfASpecialLineIsNotWritten) {
+  TestSession test;
+  test.OpenHandling(CrLf({VehicleLineOf("SLOOP"), "% SLOOP 0.1 0.2"}));
+  EXPECT_EQ(test.vars.Cars.At(0).LineKind, kPercentLine);
+  ChooseAllForExport(test);
+  EXPECT_EQ(ExportChosen(test), kHead + CrLf({VehicleLineOf("SLOOP")}) + kTail);
+}
+
+TEST(ExportVehicles, ANameOfFourteenIsFollowedByOneBlank) {
+  Car car = Bus();
+  car.CarName = "FOURTEENLETTER";
+  EXPECT_TRUE(DataLinesOf(car).starts_with("FOURTEENLETTER  1500.0 1.9 "));
+}
+
+TEST(ExportVehicles, LongerValuesAreNotCut) {
+  Car car = Bus();
+  car.CarName = "FIFTEENLETTERSX";
+  car.Mass = "12345678.9";
+  car.MonetaryValue = "12345678";
+  const std::string line = DataLinesOf(car);
+  EXPECT_TRUE(line.starts_with("FIFTEENLETTERSX 12345678.9 1.9 ")) << line;
+  EXPECT_NE(line.find(" 0.50 12345678 0.35 "), std::string::npos) << line;
+}
+
+TEST(ExportVehicles, AnEmptySlotGivesTwoBlanksInARow) {
+  Car car = Bus();
+  car.SuspensionAntiDive.clear();
+  EXPECT_NE(DataLinesOf(car).find(" 0.5  0000003 "), std::string::npos);
+}
+
+TEST(ExportVehicles, AFailingWriteShowsItsFailureAndKeepsTheWindow) {
+  TestSession test;
+  test.OpenHandling(kTwoVehicles);
+  ChooseAllForExport(test);
+  test.files.failingWrites[kExportPath] = FailureNumber::DiskFull;
+  test.desktop.shown.clear();
+  EXPECT_EQ(ExportChosen(test), "");
+  EXPECT_EQ(test.desktop.shown, (Shown{"save", "error: Error: 61 - Disk full"}));
+  EXPECT_TRUE(test.exporter.IsVisible());
+  EXPECT_EQ(test.exporter.lst2.Count(), 2);
+}
+
+TEST(ExportVehicles, WithoutATableOfVehiclesFailsBehindTheHead) {
+  TestSession test;
+  test.OpenDefinition(
+      CrLf({"cars", "130, cab, cab, car, TAXI, TAXI, null, taxi, 10, 7, 0, 251, 0.7", "end"}));
+  ChooseAllForExport(test);
+  EXPECT_EQ(ExportChosen(test), kHead);
+  EXPECT_EQ(test.LastShown(), "error: Error: 9 - Subscript out of range");
+  EXPECT_TRUE(test.exporter.IsVisible());
+}
+
+TEST(ExportVehicles, WithADefinitionFileOpenTakesTheVehiclesInMemory) {
+  TestSession test;
+  test.OpenHandling(kTwoVehicles);
+  test.OpenDefinition(
+      CrLf({"cars", "130, cab, cab, car, TAXI, TAXI, null, taxi, 10, 7, 0, 251, 0.7", "end"}));
+  ChooseAllForExport(test);
+  EXPECT_EQ(ExportChosen(test), kHead + CrLf({VehicleLineOf("TAXI")}) + kTail);
+}
+
+}  // namespace
+}  // namespace wheelwright::testing

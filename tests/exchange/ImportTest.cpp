@@ -1,0 +1,275 @@
+// The frame of an import and what its first pass puts into the list.
+#include "core/Failure.h"
+#include "exchange/Import.h"
+#include "support/Exchange.h"
+
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+namespace wheelwright::testing {
+namespace {
+
+using Shown = std::vector<std::string>;
+using Rows = std::vector<std::string>;
+
+const Shown kDone{"open", "hourglass", "normal", "information: E115"};
+
+void OpenBusAndTaxi(TestSession& test) {
+  test.OpenHandling(CrLf({VehicleLineOf("TAXI"), VehicleLineOf("BUS", "5500.0")}));
+}
+
+// The list of a session with only a bus after the import of these lines.
+Rows ListWith(const std::string& text) {
+  TestSession test;
+  test.OpenHandling(CrLf({VehicleLineOf("BUS")}));
+  Import(test, text);
+  EXPECT_EQ(test.desktop.shown, kDone);
+  return test.main.cmbAutos.Rows();
+}
+
+TEST(ImportVehicles, AddsVehiclesToTableAndList) {
+  TestSession test;
+  OpenBusAndTaxi(test);
+  const std::vector<Car> loaded = test.vars.Cars.Walk();
+  Import(test, CrLf({VehicleLineOf("VAN"), VehicleLineOf("AMBULAN")}));
+  EXPECT_EQ(test.desktop.shown, kDone);
+  EXPECT_EQ(test.main.cmbAutos.Rows(), (Rows{"AMBULAN", "BUS", "TAXI", "VAN"}));
+  EXPECT_EQ(NamesOf(test.vars.Cars), (Rows{"TAXI", "BUS", "VAN", "AMBULAN"}));
+  EXPECT_EQ(test.vars.Kopie_Cars.Walk(), loaded);
+  EXPECT_FALSE(test.vars.IsSaved);
+  EXPECT_EQ(test.Disk(kImportPath), CrLf({VehicleLineOf("VAN"), VehicleLineOf("AMBULAN")}));
+}
+
+TEST(ImportVehicles, ItsDialogKeepsFileAndIndexOfTheOpenDialog) {
+  TestSession test;
+  OpenBusAndTaxi(test);
+  Import(test, "");
+  const FileDialog& dialog = test.desktop.dialogs.back();
+  EXPECT_EQ(dialog.title, "E114");
+  EXPECT_EQ(dialog.filter, "E014 (*.cfg)|*.cfg|");
+  EXPECT_EQ(dialog.filterIndex, 1);
+  EXPECT_EQ(dialog.file, TestSession::kHandlingPath);
+  EXPECT_EQ(dialog.flags, FileDialog::kHideReadOnly);
+}
+
+TEST(ImportVehicles, ACancelEndsSilently) {
+  TestSession test;
+  OpenBusAndTaxi(test);
+  test.desktop.shown.clear();
+  test.desktop.choices.emplace_back();
+  test.main.cmdImportCar.ClickByHand();
+  EXPECT_EQ(test.desktop.shown, Shown{"open"});
+  EXPECT_EQ(test.vars.Cars.Count(), 2);
+  EXPECT_TRUE(test.vars.IsSaved);
+}
+
+TEST(ImportVehicles, AFileThatIsNotThereIsSaidWithNormalPointer) {
+  TestSession test;
+  OpenBusAndTaxi(test);
+  test.main.cmbAutos.ChooseByHand(1);
+  test.desktop.shown.clear();
+  test.desktop.choices.push_back(FileChoice{"/swap/gone.cfg", {}});
+  test.main.cmdImportCar.ClickByHand();
+  EXPECT_EQ(test.desktop.shown, (Shown{"open", "hourglass", "normal", "error: E012"}));
+  EXPECT_EQ(test.main.cmbAutos.Row(), 1);
+  EXPECT_EQ(test.vars.Cars.Count(), 2);
+  EXPECT_TRUE(test.vars.IsSaved);
+}
+
+TEST(ImportVehicles, AFileThatCantBeReadShowsItsFailureWithNormalPointer) {
+  TestSession test;
+  OpenBusAndTaxi(test);
+  test.files.failingReads[kImportPath] = FailureNumber::PermissionDenied;
+  Import(test, CrLf({VehicleLineOf("VAN")}));
+  EXPECT_EQ(test.desktop.shown,
+            (Shown{"open", "hourglass", "normal", "error: Error: 70 - Permission denied"}));
+  EXPECT_EQ(test.main.cmbAutos.Rows(), (Rows{"BUS", "TAXI"}));
+  EXPECT_TRUE(test.vars.IsSaved);
+}
+
+TEST(ImportVehicles, AFileWithoutVehiclesStillChoosesTheFirstAndMarksAsChanged) {
+  TestSession test;
+  OpenBusAndTaxi(test);
+  test.main.cmbAutos.ChooseByHand(1);
+  Import(test, CrLf({"; nothing here", "", "short"}));
+  EXPECT_EQ(test.desktop.shown, kDone);
+  EXPECT_EQ(test.vars.Cars.Count(), 2);
+  EXPECT_EQ(test.main.cmbAutos.Row(), 0);
+  EXPECT_EQ(test.main.txtAutoname.Text(), "BUS");
+  EXPECT_FALSE(test.vars.IsSaved);
+}
+
+TEST(ImportVehicles, ShowsAFirstVehicleThatWasImported) {
+  TestSession test;
+  OpenBusAndTaxi(test);
+  Import(test, CrLf({VehicleLineOf("AMBULAN", "2600.0")}));
+  EXPECT_EQ(test.vars.CurrentCar, 2);
+  EXPECT_EQ(test.main.txtAutoname.Text(), "AMBULAN");
+  EXPECT_EQ(test.main.txtGewicht.Text(), "2600.0");
+}
+
+TEST(ImportVehicles, AFirstRowThatStaysRunsNoSelection) {
+  TestSession test;
+  OpenBusAndTaxi(test);
+  int selections = 0;
+  test.main.cmbAutos.clicked = [&selections] { ++selections; };
+  Import(test, CrLf({VehicleLineOf("VAN")}));
+  EXPECT_EQ(selections, 0);
+  Import(test, CrLf({VehicleLineOf("AMBULAN")}));
+  EXPECT_EQ(selections, 1);
+}
+
+TEST(ImportVehicles, BeforeAnyLoadFailsBehindTheFirstPass) {
+  TestSession test;
+  Import(test, CrLf({VehicleLineOf("VAN")}));
+  EXPECT_EQ(test.desktop.shown,
+            (Shown{"open", "hourglass", "normal", "error: Error: 9 - Subscript out of range"}));
+  EXPECT_EQ(test.main.cmbAutos.Rows(), Rows{"VAN"});
+  EXPECT_FALSE(test.vars.Cars.IsAllocated());
+  EXPECT_TRUE(test.vars.IsSaved);
+}
+
+TEST(ImportVehicles, IntoAnEmptyListWithoutAVehicleFailsAtTheChoice) {
+  TestSession test;
+  OpenBusAndTaxi(test);
+  test.main.cmbAutos.Clear();
+  Import(test, CrLf({"; nothing here"}));
+  EXPECT_EQ(test.desktop.shown,
+            (Shown{"open", "hourglass", "normal", "error: Error: 380 - Invalid property value"}));
+  EXPECT_TRUE(test.vars.IsSaved);
+}
+
+TEST(ImportVehicles, CountsRecordsInSixteenBits) {
+  TestSession test;
+  OpenBusAndTaxi(test);
+  test.vars.Cars.ExtendTo(32766);
+  Import(test, CrLf({VehicleLineOf("VAN"), VehicleLineOf("AMBULAN")}));
+  EXPECT_EQ(test.desktop.shown,
+            (Shown{"open", "hourglass", "normal", "error: Error: 6 - Overflow"}));
+  EXPECT_EQ(test.vars.Cars.Count(), 32768);
+  EXPECT_EQ(test.vars.Cars.At(32767).CarName, "VAN");
+  EXPECT_EQ(test.main.cmbAutos.Rows(), (Rows{"AMBULAN", "BUS", "TAXI", "VAN"}));
+  EXPECT_TRUE(test.vars.IsSaved);
+}
+
+TEST(ImportVehicles, TwiceAppendsTheVehiclesAgain) {
+  TestSession test;
+  OpenBusAndTaxi(test);
+  const std::string text = CrLf({VehicleLineOf("VAN"), VehicleLineOf("CAB")});
+  Import(test, text);
+  Import(test, text);
+  EXPECT_EQ(test.desktop.shown, kDone);
+  EXPECT_EQ(test.main.cmbAutos.Rows(), (Rows{"BUS", "CAB", "TAXI", "VAN"}));
+  EXPECT_EQ(NamesOf(test.vars.Cars), (Rows{"TAXI", "BUS", "VAN", "CAB", "VAN", "CAB"}));
+}
+
+TEST(ImportVehicles, WithADefinitionFileOpenAddsToTheVehiclesAndTheList) {
+  TestSession test;
+  OpenBusAndTaxi(test);
+  test.OpenDefinition(
+      CrLf({"cars", "130, cab, cab, car, CAB, CAB, null, taxi, 10, 7, 0, 251, 0.7", "end"}));
+  const std::vector<IdeEntry> definitions = test.vars.Ides.Walk();
+  Import(test, CrLf({VehicleLineOf("VAN")}));
+  EXPECT_EQ(test.desktop.shown, kDone);
+  EXPECT_EQ(test.main.cmbAutos.Rows(), (Rows{"CAB", "VAN"}));
+  EXPECT_EQ(NamesOf(test.vars.Cars), (Rows{"TAXI", "BUS", "VAN"}));
+  EXPECT_EQ(test.vars.Ides.Walk(), definitions);
+}
+
+TEST(ImportVehicles, WithAColorFileOpenAddsToTheVehiclesAndTheList) {
+  TestSession test;
+  OpenBusAndTaxi(test);
+  test.OpenColors(CrLf({"col", "0,0,0\t\t\t\t# 0 black", "end", "car", "cab, 0, 0", "end"}));
+  Import(test, CrLf({VehicleLineOf("VAN")}));
+  EXPECT_EQ(test.desktop.shown, kDone);
+  EXPECT_EQ(test.main.cmbAutos.Rows(), (Rows{"cab", "VAN"}));
+  EXPECT_EQ(NamesOf(test.vars.Cars), (Rows{"TAXI", "BUS", "VAN"}));
+}
+
+TEST(ImportVehicles, TheNextSaveWritesThemInTheirSortedPlaces) {
+  TestSession test;
+  OpenBusAndTaxi(test);
+  Import(test, CrLf({VehicleLineOf("VAN"), VehicleLineOf("CAB")}));
+  test.main.cmdSave.ClickByHand();
+  EXPECT_EQ(
+      test.Disk(TestSession::kHandlingPath),
+      CrLf({"; File created with Wheelwright V1.0.0", "; Homepage: https://wheelwright.example/",
+            VehicleLineOf("BUS", "5500.0"), VehicleLineOf("CAB"), VehicleLineOf("TAXI"),
+            VehicleLineOf("VAN"), ";", ";the end"}));
+}
+
+TEST(ImportVehicles, ARevertTakesThemAwayAgain) {
+  TestSession test;
+  OpenBusAndTaxi(test);
+  Import(test, CrLf({VehicleLineOf("VAN")}));
+  test.desktop.answers = {true};
+  test.main.cmdUndo.ClickByHand();
+  EXPECT_EQ(test.main.cmbAutos.Rows(), (Rows{"BUS", "TAXI"}));
+  EXPECT_EQ(NamesOf(test.vars.Cars), (Rows{"TAXI", "BUS"}));
+}
+
+TEST(ImportVehicles, OneBehindTheSnapshotIsShownAsAnOrdinaryVehicle) {
+  TestSession test;
+  test.OpenHandling(CrLf({VehicleLineOf("SLOOP"), "% SLOOP 0.1"}));
+  EXPECT_EQ(test.main.lblTractionMulti.Caption(), "E169");
+  Import(test, CrLf({VehicleLineOf("CAB")}));
+  EXPECT_EQ(test.main.txtAutoname.Text(), "CAB");
+  EXPECT_EQ(test.main.lblTractionMulti.Caption(), "E033");
+}
+
+TEST(ImportedNames, NeedALineOfMoreThanFourteenCharacters) {
+  EXPECT_EQ(ListWith(CrLf({"VAN           "})), Rows{"BUS"});
+  EXPECT_EQ(ListWith(CrLf({"VAN           1"})), (Rows{"BUS", "VAN"}));
+}
+
+TEST(ImportedNames, ASemicolonInTheFirstFourteenColumnsMakesAComment) {
+  EXPECT_EQ(ListWith(CrLf({";VAN          1500.0"})), Rows{"BUS"});
+  EXPECT_EQ(ListWith(CrLf({"VAN          ;1500.0"})), Rows{"BUS"});
+  EXPECT_EQ(ListWith(CrLf({"VAN           ;1500.0"})), (Rows{"BUS", "VAN"}));
+}
+
+TEST(ImportedNames, AreCutAtBlanksOnBothEnds) {
+  EXPECT_EQ(ListWith(CrLf({"  MAIL VAN    1500.0"})), (Rows{"BUS", "MAIL VAN"}));
+}
+
+TEST(ImportedNames, KeepATab) {
+  EXPECT_EQ(ListWith(CrLf({"\tVAN\t         1500.0"})), (Rows{"\tVAN\t", "BUS"}));
+}
+
+TEST(ImportedNames, AreComparedWithCase) {
+  EXPECT_EQ(ListWith(CrLf({VehicleLineOf("Bus"), VehicleLineOf("BUS"), VehicleLineOf("bus")})),
+            (Rows{"BUS", "Bus", "bus"}));
+}
+
+TEST(ImportedNames, StandOnlyOnceInTheList) {
+  EXPECT_EQ(ListWith(CrLf({VehicleLineOf("VAN"), VehicleLineOf("VAN")})), (Rows{"BUS", "VAN"}));
+}
+
+TEST(ImportedNames, AreFourteenCharactersLong) {
+  EXPECT_EQ(ListWith(CrLf({"FOURTEENLETTER 1500.0"})), (Rows{"BUS", "FOURTEENLETTER"}));
+  EXPECT_EQ(ListWith(CrLf({"FIFTEENLETTERSX 1500.0"})), (Rows{"BUS", "FIFTEENLETTERS"}));
+}
+
+TEST(ImportedNames, AMarkOfASpecialLineIsPartOfTheName) {
+  EXPECT_EQ(ListWith(CrLf({"% VAN         1500.0"})), (Rows{"% VAN", "BUS"}));
+}
+
+TEST(ImportedNames, AnotherSpacingOfBlanksPutsTheNextFieldIntoTheName) {
+  EXPECT_EQ(ListWith(CrLf({"VAN 1500.0 1.9 4.6"})), (Rows{"BUS", "VAN 1500.0 1.9"}));
+}
+
+TEST(ImportedNames, FourteenBlanksMakeAnEmptyRow) {
+  EXPECT_EQ(ListWith(CrLf({"              1"})), (Rows{"", "BUS"}));
+}
+
+TEST(ImportedNames, GoBeforeTheFirstGreaterRowOfARenamedList) {
+  TestSession test;
+  OpenBusAndTaxi(test);
+  test.main.txtAutoname.EditByHand("ZEBRA");
+  Import(test, CrLf({VehicleLineOf("VAN"), VehicleLineOf("ZULU")}));
+  EXPECT_EQ(test.main.cmbAutos.Rows(), (Rows{"VAN", "ZEBRA", "TAXI", "ZULU"}));
+}
+
+}  // namespace
+}  // namespace wheelwright::testing

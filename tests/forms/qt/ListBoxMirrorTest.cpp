@@ -1,0 +1,139 @@
+// A list box and its list view, in both directions.
+#include "forms/qt/MirrorBench.h"
+
+#include <QScrollBar>
+#include <QtTest/QTest>
+
+namespace wheelwright::testing {
+namespace {
+
+std::vector<std::string> Numbered(int count) {
+  std::vector<std::string> rows;
+  for (int row = 0; row < count; ++row) rows.push_back("Row " + std::to_string(row));
+  return rows;
+}
+
+class ListBoxMirrorTest : public MirrorBench {
+ protected:
+  ListBoxMirrorTest() {
+    list.AddRows(Numbered(100));
+    list.clicked = Counts();
+    QCoreApplication::processEvents();
+  }
+
+  void ClickRow(int row, Qt::KeyboardModifiers modifiers = {}) {
+    const QModelIndex index = view.model()->index(row, 0);
+    view.scrollTo(index);
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, modifiers, view.visualRect(index).center());
+  }
+
+  // The row that is chosen on both sides.
+  int Row() {
+    EXPECT_EQ(Difference(list), "");
+    return list.Row();
+  }
+
+  RowView& view = Show<RowView>(list);
+};
+
+TEST_F(ListBoxMirrorTest, TheFocusChoosesNothing) {
+  for (const Qt::FocusReason reason :
+       {Qt::TabFocusReason, Qt::MouseFocusReason, Qt::ShortcutFocusReason}) {
+    elsewhere.setFocus();
+    view.setFocus(reason);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(view.hasFocus());
+    EXPECT_EQ(Row(), -1);
+  }
+  EXPECT_EQ(runs, 0);
+}
+
+TEST_F(ListBoxMirrorTest, AClickChoosesAndRunsTheHandlerOnTheChosenRowAgain) {
+  ClickRow(2);
+  EXPECT_EQ(Row(), 2);
+  EXPECT_EQ(runs, 1);
+  ClickRow(2);
+  EXPECT_EQ(Row(), 2);
+  EXPECT_EQ(runs, 2);
+  ClickRow(50);
+  EXPECT_EQ(Row(), 50);
+  EXPECT_EQ(runs, 3);
+}
+
+TEST_F(ListBoxMirrorTest, NoClickTakesTheChoiceAway) {
+  ClickRow(2);
+  ClickRow(2, Qt::ControlModifier);
+  EXPECT_EQ(Row(), 2);
+  list.Clear();
+  list.AddRows({"only"});
+  list.Choose(0);
+  QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.viewport()->rect().bottomRight());
+  EXPECT_EQ(Row(), 0);
+}
+
+TEST_F(ListBoxMirrorTest, TheArrowKeysChooseAndReturnAndSpaceChooseAgain) {
+  list.Choose(0);
+  runs = 0;
+  view.setFocus();
+  QTest::keyClick(&view, Qt::Key_Down);
+  EXPECT_EQ(Row(), 1);
+  EXPECT_EQ(runs, 1);
+  QTest::keyClick(&view, Qt::Key_Return);
+  QTest::keyClick(&view, Qt::Key_Space);
+  EXPECT_EQ(Row(), 1);
+  EXPECT_EQ(runs, 3);
+}
+
+TEST_F(ListBoxMirrorTest, ReturnChoosesTheRowUnderTheCursorWhenNothingIsChosen) {
+  view.setFocus(Qt::TabFocusReason);
+  QTest::keyClick(&view, Qt::Key_Return);
+  EXPECT_EQ(Row(), 0);
+  EXPECT_EQ(runs, 1);
+}
+
+TEST_F(ListBoxMirrorTest, TheProgramsChoiceRunsTheHandlerOnceAndIsScrolledTo) {
+  list.Choose(90);
+  EXPECT_EQ(Row(), 90);
+  EXPECT_EQ(runs, 1);
+  EXPECT_TRUE(view.viewport()->rect().contains(view.visualRect(view.model()->index(90, 0))));
+}
+
+TEST_F(ListBoxMirrorTest, OtherRowsChooseNothing) {
+  view.setFocus();
+  list.Choose(3);
+  runs = 0;
+  list.Clear();
+  EXPECT_EQ(Row(), -1);
+  list.AddRows({"a", "b"});
+  EXPECT_EQ(Row(), -1);
+  list.Choose(0);
+  runs = 0;
+  list.RemoveRow(0);
+  EXPECT_EQ(Row(), -1);
+  EXPECT_EQ(runs, 0);
+}
+
+TEST_F(ListBoxMirrorTest, ANewTextKeepsChoiceAndPlace) {
+  list.Choose(90);
+  QCoreApplication::processEvents();
+  view.verticalScrollBar()->setValue(70);
+  runs = 0;
+  list.ReplaceRow(90, "other");
+  list.ReplaceRow(0, "first");
+  QCoreApplication::processEvents();
+  EXPECT_EQ(Row(), 90);
+  EXPECT_EQ(view.verticalScrollBar()->value(), 70);
+  EXPECT_EQ(runs, 0);
+}
+
+TEST_F(ListBoxMirrorTest, RowsThatGoAndComeKeepThePlace) {
+  view.verticalScrollBar()->setValue(40);
+  list.RemoveRow(95);
+  list.AddRow("new");
+  QCoreApplication::processEvents();
+  EXPECT_EQ(view.verticalScrollBar()->value(), 40);
+  EXPECT_EQ(Row(), -1);
+}
+
+}  // namespace
+}  // namespace wheelwright::testing

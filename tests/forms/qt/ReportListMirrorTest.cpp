@@ -1,0 +1,89 @@
+// A list in report form and its view.
+#include "forms/qt/MirrorBench.h"
+
+#include <QCoreApplication>
+#include <QHeaderView>
+#include <QScrollBar>
+#include <QTreeView>
+
+namespace wheelwright::testing {
+namespace {
+
+class ReportListMirrorTest : public MirrorBench {
+ protected:
+  ReportListMirrorTest() {
+    view.setFixedSize(569, 297);
+    QCoreApplication::processEvents();
+  }
+
+  QString Cell(int row, int column) const {
+    return view.model()->index(row, column).data().toString();
+  }
+
+  std::array<int, 3> Widths() const {
+    const QHeaderView& header = *view.header();
+    return {header.sectionSize(0), header.sectionSize(1), header.sectionSize(2)};
+  }
+
+  void AddRows(int count) {
+    for (int row = 0; row < count; ++row) report.AddRow({"BUS", "&Mass", "Must be a number"});
+    QCoreApplication::processEvents();
+  }
+
+  QTreeView& view = Show<QTreeView>(report);
+};
+
+TEST_F(ReportListMirrorTest, RowsShowInOrderOfArrivalAndGoAllAtOnce) {
+  AddRows(2);
+  report.AddRow({"TAXI", "", "Wrong number"});
+  EXPECT_EQ(view.model()->rowCount(), 3);
+  EXPECT_EQ(Cell(2, 0), "TAXI");
+  EXPECT_EQ(Cell(2, 2), "Wrong number");
+  report.Clear();
+  EXPECT_EQ(view.model()->rowCount(), 0);
+  EXPECT_EQ(Difference(report), "");
+}
+
+TEST_F(ReportListMirrorTest, AFieldsCaptionShowsWithoutItsMarksAndTextsOfTheFileAsTheyAre) {
+  report.AddRow({"R&&D &x", "Engine && &drive", "<b>7</b> && 8"});
+  EXPECT_EQ(Cell(0, 0), "R&&D &x");
+  EXPECT_EQ(Cell(0, 1), "Engine & drive");
+  EXPECT_EQ(Cell(0, 2), "<b>7</b> && 8");
+  EXPECT_EQ(report.Rows()[0][1], "Engine && &drive");
+  EXPECT_EQ(Difference(report), "");
+}
+
+TEST_F(ReportListMirrorTest, HeadersFollowWithoutTheirMarks) {
+  report.SetColumn(1, "&Field");
+  EXPECT_EQ(view.model()->headerData(1, Qt::Horizontal).toString(), "Field");
+  EXPECT_EQ(Difference(report), "");
+}
+
+TEST_F(ReportListMirrorTest, ColumnsHaveTheirWidths) {
+  EXPECT_EQ(Widths(), (std::array<int, 3>{100, 160, 303}));
+  AddRows(3);
+  EXPECT_EQ(Widths(), (std::array<int, 3>{100, 160, 303}));
+  EXPECT_FALSE(view.horizontalScrollBar()->isVisible());
+}
+
+TEST_F(ReportListMirrorTest, TheLastColumnMakesRoomForAVerticalScrollBar) {
+  AddRows(200);
+  ASSERT_TRUE(view.verticalScrollBar()->isVisible());
+  EXPECT_FALSE(view.horizontalScrollBar()->isVisible());
+  EXPECT_EQ(Widths()[0], 100);
+  EXPECT_EQ(Widths()[1], 160);
+  EXPECT_EQ(view.header()->length(), view.viewport()->width());
+  report.Clear();
+  QCoreApplication::processEvents();
+  EXPECT_EQ(Widths(), (std::array<int, 3>{100, 160, 303}));
+}
+
+TEST_F(ReportListMirrorTest, ARowThatJoinsKeepsThePlace) {
+  AddRows(200);
+  view.verticalScrollBar()->setValue(50);
+  AddRows(1);
+  EXPECT_EQ(view.verticalScrollBar()->value(), 50);
+}
+
+}  // namespace
+}  // namespace wheelwright::testing

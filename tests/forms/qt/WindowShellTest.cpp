@@ -1,0 +1,156 @@
+// The coming and going of the three windows, and their keys.
+#include "forms/qt/RealWindows.h"
+
+#include <QPushButton>
+#include <QShortcut>
+#include <QtTest/QTest>
+
+namespace wheelwright::testing {
+namespace {
+
+using Shown = std::vector<std::string>;
+
+class WindowShellTest : public RealWindows {
+ protected:
+  void ShowErrors() {
+    test.error.lstErrors.AddRow({"BUS", "", "x"});
+    test.error.SetVisible(true);
+    Activate(test.error);
+  }
+
+  void ShowExport() {
+    test.OpenHandling(VehicleLineOf("BUS"));
+    main.cmdExportCar.ClickByHand();
+    Activate(test.exporter);
+  }
+
+  void Press(QKeySequence::StandardKey key) {
+    const QList<QKeySequence> bindings = QKeySequence::keyBindings(key);
+    ASSERT_FALSE(bindings.isEmpty());
+    QTest::keySequence(&windows.Of(main), bindings.constFirst());
+  }
+
+  // The main window's shortcut for a key that not every platform has, under a key of the test.
+  void PressInstead(QKeySequence::StandardKey key, int place) {
+    const auto shortcuts =
+        windows.Of(main).findChildren<QShortcut*>(QString(), Qt::FindDirectChildrenOnly);
+    ASSERT_GT(shortcuts.size(), place);
+    EXPECT_EQ(shortcuts[place]->keys(), QKeySequence::keyBindings(key));
+    shortcuts[place]->setKey(Qt::Key_F11);
+    QTest::keyClick(&windows.Of(main), Qt::Key_F11);
+  }
+};
+
+TEST_F(WindowShellTest, EachWindowIsOnScreenWhileItsPlainOneIsVisible) {
+  EXPECT_TRUE(windows.Of(main).isVisible());
+  EXPECT_FALSE(windows.Of(test.error).isVisible());
+  EXPECT_FALSE(windows.Of(test.exporter).isVisible());
+  EXPECT_EQ(Differences(), "");
+}
+
+TEST_F(WindowShellTest, ClosingTheLoadProblemsHidesThemAndKeepsTheRows) {
+  ShowErrors();
+  EXPECT_FALSE(windows.Of(test.error).close() && test.error.IsVisible());
+  EXPECT_FALSE(windows.Of(test.error).isVisible());
+  EXPECT_EQ(test.error.lstErrors.Rows().size(), 1u);
+  test.error.lstErrors.AddRow({"TAXI", "", "y"});
+  test.error.SetVisible(true);
+  EXPECT_TRUE(windows.Of(test.error).isVisible());
+  EXPECT_EQ(Differences(), "");
+}
+
+TEST_F(WindowShellTest, ClosingTheMainWindowAsksAndStaysWithoutAYes) {
+  test.vars.IsSaved = false;
+  test.desktop.answers = {false};
+  EXPECT_FALSE(windows.Of(main).close());
+  EXPECT_TRUE(windows.Of(main).isVisible());
+  EXPECT_EQ(test.desktop.shown, (Shown{"question: E117"}));
+}
+
+TEST_F(WindowShellTest, ClosingTheMainWindowWithAYesEndsTheProgram) {
+  test.vars.IsSaved = false;
+  test.desktop.answers = {true};
+  windows.Of(main).close();
+  EXPECT_EQ(test.desktop.shown, (Shown{"question: E117", "end"}));
+}
+
+TEST_F(WindowShellTest, ClosingTheExportForgetsItsLists) {
+  ShowExport();
+  EXPECT_EQ(test.exporter.lst1.Count(), 1);
+  windows.Of(test.exporter).close();
+  EXPECT_FALSE(test.exporter.IsVisible());
+  EXPECT_EQ(test.exporter.lst1.Count(), 0);
+  EXPECT_EQ(Differences(), "");
+}
+
+TEST_F(WindowShellTest, EscapeClosesTheOtherWindowsAndNotTheMainOne) {
+  ShowErrors();
+  QTest::keyClick(&windows.Of(test.error), Qt::Key_Escape);
+  EXPECT_FALSE(test.error.IsVisible());
+  ShowExport();
+  QTest::keyClick(&windows.Of(test.exporter), Qt::Key_Escape);
+  EXPECT_FALSE(test.exporter.IsVisible());
+  Activate(main);
+  test.desktop.shown.clear();
+  QTest::keyClick(&windows.Of(main), Qt::Key_Escape);
+  EXPECT_EQ(test.desktop.shown, Shown());
+}
+
+TEST_F(WindowShellTest, TheMainWindowStaysUsableBesideTheOthers) {
+  ShowErrors();
+  ShowExport();
+  EXPECT_FALSE(windows.Of(test.error).isModal());
+  EXPECT_FALSE(windows.Of(test.exporter).isModal());
+  auto& open = Of<QPushButton>(main.cmdOpen);
+  test.desktop.shown.clear();
+  test.desktop.choices = {std::nullopt};
+  QTest::mouseClick(&open, Qt::LeftButton);
+  EXPECT_EQ(test.desktop.shown.front(), "open");
+}
+
+// The program ends with its main window; another window that is up must not keep the process.
+TEST_F(WindowShellTest, OnlyTheMainWindowCountsForTheEnd) {
+  EXPECT_TRUE(windows.Of(main).testAttribute(Qt::WA_QuitOnClose));
+  EXPECT_FALSE(windows.Of(test.error).testAttribute(Qt::WA_QuitOnClose));
+  EXPECT_FALSE(windows.Of(test.exporter).testAttribute(Qt::WA_QuitOnClose));
+}
+
+TEST_F(WindowShellTest, TheStandardKeysClickTheirButtons) {
+  test.desktop.choices = {std::nullopt};
+  Press(QKeySequence::Open);
+  EXPECT_EQ(test.desktop.shown.front(), "open");
+  Press(QKeySequence::HelpContents);
+  EXPECT_EQ(test.LastShown(), "error: E121");
+  PressInstead(QKeySequence::Quit, 4);
+  EXPECT_EQ(test.LastShown(), "end");
+}
+
+TEST_F(WindowShellTest, TheKeysOfSavingWorkOnceAFileIsOpen) {
+  Press(QKeySequence::Save);
+  PressInstead(QKeySequence::SaveAs, 2);
+  EXPECT_EQ(test.desktop.shown, Shown());
+  test.OpenHandling(VehicleLineOf("BUS"));
+  test.files.written.clear();
+  Press(QKeySequence::Save);
+  EXPECT_EQ(test.files.written, Shown{TestSession::kHandlingPath});
+  test.desktop.choices = {std::nullopt};
+  QTest::keyClick(&windows.Of(main), Qt::Key_F11);
+  EXPECT_EQ(test.LastShown(), "save");
+}
+
+// A whole day in miniature: what the program does to its controls arrives on all of them.
+TEST_F(WindowShellTest, AllControlsShowWhatThePlainOnesSay) {
+  test.OpenHandling(VehicleLineOf("BUS") + "\r\n" + VehicleLineOf("TAXI"));
+  EXPECT_EQ(Differences(), "");
+  Of<QComboBox>(main.cmbAutos).setFocus();
+  QTest::keyClick(&windows.Of(main.cmbAutos), Qt::Key_Down);
+  EXPECT_EQ(main.txtAutoname.Text(), "TAXI");
+  EXPECT_EQ(Differences(), "");
+  test.OpenDefinition("cars\r\n130, bus, bus, plane, BUS, BUS, null, big, 30, 7, 0, 5\r\nend\r\n");
+  EXPECT_EQ(Differences(), "");
+  test.OpenColors("col\r\n1,2,3 # 0 black\r\nend\r\ncar\r\nbus, 0,0\r\nend\r\n");
+  EXPECT_EQ(Differences(), "");
+}
+
+}  // namespace
+}  // namespace wheelwright::testing

@@ -1,0 +1,13 @@
+// The tests of the real windows: one application, on no display.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+
+int main(int argumentCount, char** arguments) {
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  ::testing::InitGoogleTest(&argumentCount, arguments);
+  const QApplication application(argumentCount, arguments);
+  QApplication::setApplicationName("Wheelwright");
+  QApplication::setQuitOnLastWindowClosed(false);
+  return RUN_ALL_TESTS();
+}

@@ -1,0 +1,94 @@
+"""The fresh folder in which a session is played, and the steps that change it."""
+
+import json
+import os
+import pathlib
+import shutil
+import stat
+import tempfile
+
+CODE_PAGE = "cp1252"
+READ_ONLY = stat.S_IRUSR | stat.S_IRGRP | stat.S_IROTH
+
+
+def write(folder, file, text):
+    (folder / file).write_bytes(text.encode(CODE_PAGE))
+
+
+def remove(folder, path):
+    if (folder / path).is_dir() and not (folder / path).is_symlink():
+        shutil.rmtree(folder / path)
+    else:
+        (folder / path).unlink()
+
+
+def make_directory(folder, path):
+    (folder / path).mkdir(parents=True)
+
+
+def make_read_only(folder, file):
+    (folder / file).chmod(READ_ONLY)
+
+
+def link(folder, target, path):
+    (folder / path).symlink_to(target)
+
+
+STEPS = {"write": write, "remove": remove, "mkdir": make_directory, "readonly": make_read_only,
+         "link": link}
+
+
+class Folder:
+    def __init__(self, session, app):
+        self.session = session
+        self.app = app
+        self.path = None
+
+    def __enter__(self):
+        self.path = pathlib.Path(tempfile.mkdtemp(prefix="session-"))
+        try:
+            self.fill()
+        except BaseException:
+            self.__exit__()
+            raise
+        return self
+
+    def __exit__(self, *_):
+        shutil.rmtree(self.path)
+
+    def fill(self):
+        if (self.session / "before").is_dir():
+            shutil.copytree(self.session / "before", self.path, dirs_exist_ok=True,
+                            copy_function=shutil.copyfile)
+        if not (self.path / "app").exists():
+            shutil.copytree(self.app, self.path / "app", copy_function=shutil.copyfile)
+        if (self.session / "prepare.json").exists():
+            for step in json.loads(self.named((self.session / "prepare.json").read_text("utf-8"))):
+                self.take(step)
+
+    def take(self, step):
+        STEPS[step[0]](self.path, *step[1:])
+
+    def named(self, text):
+        """A text of JSON with the folder's path in place of @DIR@."""
+        return text.replace("@DIR@", json.dumps(str(self.path), ensure_ascii=False)[1:-1])
+
+    def unnamed(self, text):
+        return text.replace(json.dumps(str(self.path), ensure_ascii=False)[1:-1], "@DIR@")
+
+    def files(self):
+        return files_below(self.path)
+
+
+def files_below(top):
+    """The bytes of all files below a folder by their names relative to it; a link isn't followed,
+    since it may lead to a device."""
+    found = {}
+    for folder, _, names in os.walk(top):
+        for name in names:
+            file = pathlib.Path(folder, name)
+            if file.is_symlink():
+                found[file.relative_to(top).as_posix()] = b"link to " + os.fsencode(file.readlink())
+            elif file.is_file():
+                found[file.relative_to(top).as_posix()] = file.read_bytes()
+    return found

@@ -1,0 +1,28 @@
+#include "support/TableTexts.h"
+
+namespace wheelwright::testing {
+
+std::string TextOf(const IdeEntry& entry) {
+  std::string text = entry.ID;
+  for (const std::string& field :
+       {entry.ModelName, entry.TXDName, entry.Typ, entry.HandlingID, entry.GameName, entry.Anim,
+        entry.Klasse, entry.Frequenz, entry.Level, entry.CompRules, entry.Extra1, entry.Extra2}) {
+    text += "|" + field;
+  }
+  return text;
+}
+
+std::string TextOf(const ColorEntry& entry) {
+  return std::to_string(entry.Index) + ": " + std::to_string(entry.Red) + "," +
+         std::to_string(entry.Green) + "," + std::to_string(entry.Blue) + " " + entry.ColorName;
+}
+
+std::string TextOf(const CarColorEntry& entry) {
+  std::string text = entry.ModelName;
+  for (std::size_t pair = 0; pair < entry.Color1.size(); ++pair) {
+    text += " " + std::to_string(entry.Color1[pair]) + "," + std::to_string(entry.Color2.at(pair));
+  }
+  return text;
+}
+
+}  // namespace wheelwright::testing
