@@ -29,7 +29,9 @@ void RelabelChosenRow(Session& session) {
 // Every vehicle's pairs are visited. The numbers aren't shifted: only those of the deleted colour
 // change.
 void ReferToFirstColor(Table<CarColorEntry>& carColors, std::int16_t deleted) {
-  for (CarColorEntry& entry : carColors.Walk()) {
+  const std::int16_t last = carColors.UpperBound();
+  for (int index = 0; index <= last; ++index) {
+    CarColorEntry& entry = carColors.At(index);
     std::replace(entry.Color1.begin(), entry.Color1.end(), deleted, std::int16_t{0});
     std::replace(entry.Color2.begin(), entry.Color2.end(), deleted, std::int16_t{0});
   }

@@ -78,21 +78,6 @@ char32_t TakeCharacter(std::string_view& utf8) {
   return character;
 }
 
-std::array<char, 256> LowerCaseTable() {
-  std::array<char, 256> table{};
-  for (unsigned byte = 0; byte < 256; ++byte) {
-    const bool asciiCapital = byte >= 'A' && byte <= 'Z';
-    const bool latinCapital = byte >= 0xC0 && byte <= 0xDE && byte != 0xD7;
-    const bool caronOrLigature = byte == 0x8A || byte == 0x8C || byte == 0x8E;
-    unsigned lower = byte;
-    if (asciiCapital || latinCapital) lower = byte + 0x20;
-    if (caronOrLigature) lower = byte + 0x10;
-    if (byte == 0x9F) lower = 0xFF;
-    table[byte] = static_cast<char>(lower);
-  }
-  return table;
-}
-
 }  // namespace
 
 std::string ToUnicode(std::string_view codePageText) {
@@ -108,11 +93,6 @@ std::string FromUnicode(std::string_view utf8) {
   bytes.reserve(utf8.size());
   while (!utf8.empty()) bytes += ByteOf(TakeCharacter(utf8));
   return bytes;
-}
-
-char FoldCase(char byte) {
-  static const std::array<char, 256> lower = LowerCaseTable();
-  return lower[static_cast<unsigned char>(byte)];
 }
 
 }  // namespace wheelwright

@@ -3,7 +3,6 @@
 #include "core/Text.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -12,74 +11,80 @@ namespace {
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
-// value = 0.digits * 10^point, negative or not; the digits have no leading zero.
-struct Decimal {
+// The parts of a numeric text.
+struct NumericForm {
   bool negative = false;
+  std::string_view whole;     // the digits in front of the decimal separator
+  std::string_view fraction;  // the digits behind it
+  std::int64_t exponent = 0;  // cut to kFarAway on both sides
+};
+
+// More than any text in memory has digits.
+constexpr std::int64_t kFarAway = 1'000'000'000'000;
+
+std::string_view TakeDigits(std::string_view& rest) {
+  std::size_t length = 0;
+  while (length < rest.size() && IsDigit(rest[length])) ++length;
+  const std::string_view digits = rest.substr(0, length);
+  rest.remove_prefix(length);
+  return digits;
+}
+
+// True for a minus sign.
+bool TakeSign(std::string_view& rest) {
+  if (rest.empty() || (rest.front() != '-' && rest.front() != '+')) return false;
+  const bool negative = rest.front() == '-';
+  rest.remove_prefix(1);
+  return negative;
+}
+
+// Nothing if the rest is no exponent.
+std::optional<std::int64_t> TakeExponent(std::string_view& rest) {
+  if (std::string_view("eEdD").find(rest.front()) == std::string_view::npos) return std::nullopt;
+  rest.remove_prefix(1);
+  const bool negative = TakeSign(rest);
+  const std::string_view digits = TakeDigits(rest);
+  if (digits.empty()) return std::nullopt;
+  std::int64_t exponent = 0;
+  for (const char digit : digits) exponent = std::min(kFarAway, exponent * 10 + (digit - '0'));
+  return negative ? -exponent : exponent;
+}
+
+std::optional<NumericForm> Parse(std::string_view rest) {
+  NumericForm form;
+  form.negative = TakeSign(rest);
+  form.whole = TakeDigits(rest);
+  if (!rest.empty() && (rest.front() == '.' || rest.front() == ',')) {
+    rest.remove_prefix(1);
+    form.fraction = TakeDigits(rest);
+  }
+  if (form.whole.empty() && form.fraction.empty()) return std::nullopt;
+  if (rest.empty()) return form;
+  const std::optional<std::int64_t> exponent = TakeExponent(rest);
+  if (!exponent || !rest.empty()) return std::nullopt;
+  form.exponent = *exponent;
+  return form;
+}
+
+// value = 0.digits * 10^point; the digits have no leading zero.
+struct Magnitude {
   std::string digits;
   std::int64_t point = 0;
 };
 
-class DecimalParser {
- public:
-  explicit DecimalParser(std::string_view text) : rest_(text) {}
-
-  std::optional<Decimal> Parse() {
-    Decimal number;
-    number.negative = TakeSign();
-    if (!TakeMantissa(number)) return std::nullopt;
-    if (!rest_.empty() && !TakeExponent(number)) return std::nullopt;
-    if (!rest_.empty()) return std::nullopt;
-    return number;
-  }
-
- private:
-  static constexpr std::int64_t kFarAway = 1'000'000'000'000;
-
-  bool TakeSign() {
-    if (rest_.empty() || (rest_.front() != '-' && rest_.front() != '+')) return false;
-    const bool negative = rest_.front() == '-';
-    rest_.remove_prefix(1);
-    return negative;
-  }
-
-  bool TakeMantissa(Decimal& number) {
-    bool anyDigit = false;
-    bool separated = false;
-    for (; !rest_.empty(); rest_.remove_prefix(1)) {
-      const char c = rest_.front();
-      if (IsDigit(c)) {
-        anyDigit = true;
-        const bool leadingZero = number.digits.empty() && c == '0';
-        if (!leadingZero) number.digits += c;
-        if (!separated && !leadingZero) ++number.point;
-        if (separated && leadingZero) --number.point;
-      } else if ((c == '.' || c == ',') && !separated) {
-        separated = true;
-      } else {
-        break;
-      }
-    }
-    return anyDigit;
-  }
-
-  bool TakeExponent(Decimal& number) {
-    if (std::string_view("eEdD").find(rest_.front()) == std::string_view::npos) return false;
-    rest_.remove_prefix(1);
-    const bool negative = TakeSign();
-    if (rest_.empty() || !IsDigit(rest_.front())) return false;
-    std::int64_t exponent = 0;
-    for (; !rest_.empty() && IsDigit(rest_.front()); rest_.remove_prefix(1)) {
-      exponent = std::min(kFarAway, exponent * 10 + (rest_.front() - '0'));
-    }
-    number.point += negative ? -exponent : exponent;
-    return true;
-  }
-
-  std::string_view rest_;
-};
+Magnitude MagnitudeOf(const NumericForm& form) {
+  Magnitude magnitude;
+  magnitude.digits.append(form.whole).append(form.fraction);
+  magnitude.point = static_cast<std::int64_t>(form.whole.size()) + form.exponent;
+  const std::size_t zeros =
+      std::min(magnitude.digits.find_first_not_of('0'), magnitude.digits.size());
+  magnitude.digits.erase(0, zeros);
+  magnitude.point -= static_cast<std::int64_t>(zeros);
+  return magnitude;
+}
 
 // Rounds the digits behind the point to the whole number, halves to the even one.
-long RoundedHalfToEven(const Decimal& number) {
+long RoundedHalfToEven(const Magnitude& number) {
   const auto whole = static_cast<std::size_t>(std::max<std::int64_t>(0, number.point));
   long value = 0;
   for (std::size_t i = 0; i < whole; ++i) {
@@ -97,16 +102,17 @@ long RoundedHalfToEven(const Decimal& number) {
 
 }  // namespace
 
-bool IsNumeric(std::string_view text) { return DecimalParser(text).Parse().has_value(); }
+bool IsNumeric(std::string_view text) { return Parse(text).has_value(); }
 
 std::int16_t ToInteger16(std::string_view text) {
-  const std::optional<Decimal> number = DecimalParser(TrimBlanks(text)).Parse();
-  if (!number) throw Failure(FailureNumber::TypeMismatch);
-  if (number->digits.empty()) return 0;
-  constexpr long kDigitsThatFit = 5;
-  if (number->point > kDigitsThatFit) throw Failure(FailureNumber::Overflow);
-  const long magnitude = RoundedHalfToEven(*number);
-  return Checked16(number->negative ? -magnitude : magnitude);
+  const std::optional<NumericForm> form = Parse(TrimBlanks(text));
+  if (!form) throw Failure(FailureNumber::TypeMismatch);
+  const Magnitude number = MagnitudeOf(*form);
+  if (number.digits.empty()) return 0;
+  constexpr std::int64_t kDigitsThatFit = 5;
+  if (number.point > kDigitsThatFit) throw Failure(FailureNumber::Overflow);
+  const long magnitude = RoundedHalfToEven(number);
+  return Checked16(form->negative ? -magnitude : magnitude);
 }
 
 }  // namespace wheelwright

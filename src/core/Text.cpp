@@ -3,9 +3,16 @@
 #include "core/CodePage.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace wheelwright {
+namespace {
+
+// Whether no other byte folds to this one, so that a plain search for it misses nothing.
+bool IsTheOnlyShapeOf(char folded) {
+  return std::count(codepage::kLowerCase.begin(), codepage::kLowerCase.end(), folded) == 1;
+}
+
+}  // namespace
 
 std::string_view TrimBlanks(std::string_view text) {
   const std::size_t first = text.find_first_not_of(' ');
@@ -21,11 +28,16 @@ std::string FoldedCase(std::string_view text) {
 
 std::size_t FindIgnoringCase(std::string_view text, std::string_view folded, std::size_t from) {
   if (from > text.size()) return std::string_view::npos;
-  const auto sameLetter = [](char inText, char inWord) { return FoldCase(inText) == inWord; };
-  const auto* const found = std::search(text.begin() + static_cast<std::ptrdiff_t>(from),
-                                        text.end(), folded.begin(), folded.end(), sameLetter);
-  if (found == text.end() && !folded.empty()) return std::string_view::npos;
-  return static_cast<std::size_t>(found - text.begin());
+  if (folded.empty()) return from;
+  const auto sameLetter = [](char inWord, char inText) { return FoldCase(inText) == inWord; };
+  const bool oneShape = IsTheOnlyShapeOf(folded.front());
+  for (std::size_t at = from; at + folded.size() <= text.size(); ++at) {
+    if (oneShape) at = text.find(folded.front(), at);
+    if (at == std::string_view::npos || at + folded.size() > text.size()) break;
+    const auto* const place = text.data() + at;
+    if (std::equal(folded.begin(), folded.end(), place, sameLetter)) return at;
+  }
+  return std::string_view::npos;
 }
 
 bool EqualsIgnoringCase(std::string_view left, std::string_view right) {

@@ -2,6 +2,11 @@
 
 namespace wheelwright {
 
+void TextIndex::Reserve(std::size_t texts) {
+  chains_.reserve(texts);
+  next_.reserve(texts);
+}
+
 void TextIndex::Add(std::string_view text) {
   const int position = Count();
   next_.push_back(kNone);

@@ -11,6 +11,9 @@ class TextIndex {
  public:
   static constexpr int kNone = -1;
 
+  // Makes room for this many texts, so that adding them takes no time for growing.
+  void Reserve(std::size_t texts);
+
   // Adds a text at the next position, counted from 0. The text isn't copied and must outlive the
   // index.
   void Add(std::string_view text);

@@ -40,9 +40,9 @@ void ShowColorPairs(Session& session) {
   NamesByIndex names;
   for (const ColorEntry& color : session.vars.Colors.Walk()) names[color.Index] = &color.ColorName;
   std::int16_t index = 0;
-  for (CarColorEntry& entry : session.vars.CarColors.Walk()) {
+  for (const CarColorEntry& entry : session.vars.CarColors.Walk()) {
     if (entry.ModelName == key) {
-      ListPairsOf(session, names, entry);
+      ListPairsOf(session, names, session.vars.CarColors.At(index));
       session.vars.CurrentCarColor = index;
     }
     ++index;

@@ -43,8 +43,9 @@ std::string ExportHeader(const FrmMain& main) {
 // none.
 template <class Visit>
 void ForEachChosenVehicle(const Session& session, const Visit& visit) {
-  const std::vector<Car>& cars = session.vars.Cars.Walk();
+  const RecordWalk<Car> cars = session.vars.Cars.Walk();
   TextIndex recordsOfName;
+  recordsOfName.Reserve(cars.size());
   for (const Car& car : cars) recordsOfName.Add(car.CarName);
   int row = 0;
   for (const std::string& name : session.exporter.lst2.Rows()) {

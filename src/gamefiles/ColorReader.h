@@ -1,8 +1,10 @@
 // Reading carcols.dat: the palette between "col" and "end", then the pairs between "car" and "end".
 //
 //   col
-//   0,10,20<tab><tab><tab><tab># 1 navy                  a colour; fields from its first tab on are
-//   comment end car harrow, 0, 1, 5, 5                                   a vehicle with two pairs
+//   0,10,20<tab><tab><tab><tab># 1 navy        a colour; behind the first tab only the name counts
+//   end
+//   car
+//   harrow, 0, 1, 5, 5                         a vehicle with two pairs
 //   end
 #pragma once
 

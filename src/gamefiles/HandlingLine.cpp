@@ -7,9 +7,12 @@
 namespace wheelwright {
 namespace {
 
-constexpr std::string_view kSeparators = " \t";
+bool IsSeparator(char byte) { return byte == ' ' || byte == '\t'; }
 
-const HandlingField& FieldOf(int index) { return kHandlingFields[static_cast<std::size_t>(index)]; }
+const HandlingField& FieldOf(int index) {
+  if (index < 0 || index >= kTokensOfAVehicle) throw Failure(FailureNumber::SubscriptOutOfRange);
+  return kHandlingFields[static_cast<std::size_t>(index)];
+}
 
 bool PassesCheck(TokenCheck check, std::string_view token) {
   switch (check) {
@@ -29,8 +32,7 @@ std::string CleanedLine(std::string_view line) {
   std::string cleaned;
   cleaned.reserve(line.size());
   for (const char byte : line) {
-    const bool separator = byte == ' ' || byte == '\t';
-    if (!separator) {
+    if (!IsSeparator(byte)) {
       cleaned += byte;
     } else if (!cleaned.empty() && cleaned.back() != ' ') {
       cleaned += ' ';
@@ -47,15 +49,21 @@ std::int16_t CountSpaceFields(std::string& line) {
 
 std::string ParseHandlingToken(Session& session, std::string& line, int index) {
   line = CleanedLine(line);
-  return HandlingTokens(line).Checked(session, index);
+  return std::string(HandlingTokens(line).Checked(session, index));
 }
 
 HandlingTokens::HandlingTokens(std::string_view line) {
-  for (std::size_t begin = line.find_first_not_of(kSeparators); begin != std::string_view::npos;) {
-    const std::size_t end = line.find_first_of(kSeparators, begin);
-    if (count_ < tokens_.size()) tokens_[count_] = line.substr(begin, end - begin);
+  const char* at = line.data();
+  const char* const end = at + line.size();
+  for (;;) {
+    while (at != end && IsSeparator(*at)) ++at;
+    if (at == end) return;
+    const char* const begin = at;
+    while (at != end && !IsSeparator(*at)) ++at;
+    if (count_ < tokens_.size()) {
+      tokens_[count_] = std::string_view(begin, static_cast<std::size_t>(at - begin));
+    }
     ++count_;
-    begin = line.find_first_not_of(kSeparators, end);
   }
 }
 
@@ -63,7 +71,7 @@ std::string HandlingTokens::Vehicle() const {
   return count_ == 0 ? FieldOf(0).missing : std::string(tokens_.front());
 }
 
-std::string HandlingTokens::Checked(Session& session, int index) const {
+std::string_view HandlingTokens::Checked(Session& session, int index) const {
   const HandlingField& field = FieldOf(index);
   const auto place = static_cast<std::size_t>(index);
   if (place >= count_) return field.missing;
@@ -74,7 +82,7 @@ std::string HandlingTokens::Checked(Session& session, int index) const {
                    field.namedInProblems ? (session.main.*field.label).Caption() : "",
                    session.vars.Lang[static_cast<std::size_t>(problem)]);
   }
-  return std::string(token);
+  return token;
 }
 
 void HandlingTokens::Fill(Session& session, Car& car) const {

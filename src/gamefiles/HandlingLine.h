@@ -39,7 +39,7 @@ class HandlingTokens {
   std::string Vehicle() const;
 
   // As ParseHandlingToken gives it.
-  std::string Checked(Session& session, int index) const;
+  std::string_view Checked(Session& session, int index) const;
 
   // Adds the load problem if there aren't 33, then gives all tokens to the record's slots, in
   // order.

@@ -50,8 +50,9 @@ class HandlingWriter {
     if (vehiclesWritten_) return;
     vehiclesWritten_ = true;
     if (session_.main.cmbAutos.Count() == 0) return;
-    const std::vector<Car>& cars = session_.vars.Cars.Walk();
+    const RecordWalk<Car> cars = session_.vars.Cars.Walk();
     TextIndex recordsOfName;
+    recordsOfName.Reserve(cars.size());
     for (const Car& car : cars) recordsOfName.Add(car.CarName);
     for (const std::string& name : session_.main.cmbAutos.Rows()) {
       for (int i = recordsOfName.First(name); i != TextIndex::kNone; i = recordsOfName.Next(i)) {

@@ -3,6 +3,7 @@
 #include "core/Text.h"
 
 #include <algorithm>
+#include <set>
 
 namespace wheelwright {
 namespace {
@@ -14,19 +15,27 @@ std::size_t PairOf(char first, char second) {
 
 }  // namespace
 
-NameIndex::NameIndex(const std::vector<std::string>& names)
-    : names_(names), alreadyHit_(names.size(), false) {
-  foldedNames_.reserve(names.size());
+NameIndex::NameIndex(const std::vector<std::string>& names) : names_(names) {
+  exact_.Reserve(names.size());
+  std::set<std::size_t> lengths;
   for (const std::string& name : names) {
     exact_.Add(name);
+    lengths.insert(name.size());
+  }
+  lengths_.assign(lengths.begin(), lengths.end());
+}
+
+// Most files have no special lines, or none before a line of their own needs it.
+void NameIndex::FoldNames() {
+  folded_.Reserve(names_.size());
+  foldedNames_.reserve(names_.size());
+  alreadyHit_.assign(names_.size(), false);
+  for (const std::string& name : names_) {
     const std::string& folded = foldedNames_.emplace_back(FoldedCase(name));
     folded_.Add(folded);
-    lengths_.push_back(name.size());
     if (folded.size() == 1) onlyOne_.set(static_cast<unsigned char>(folded[0]));
     if (folded.size() > 1) firstTwo_.set(PairOf(folded[0], folded[1]));
   }
-  std::sort(lengths_.begin(), lengths_.end());
-  lengths_.erase(std::unique(lengths_.begin(), lengths_.end()), lengths_.end());
 }
 
 const std::vector<NameHit>& NameIndex::Beginning(std::string_view line) {
@@ -43,6 +52,7 @@ const std::vector<NameHit>& NameIndex::Beginning(std::string_view line) {
 }
 
 const std::vector<NameHit>& NameIndex::Anywhere(std::string_view line) {
+  if (folded_.Count() == 0) FoldNames();
   hits_.clear();
   const std::string folded = FoldedCase(line);
   AddFolded({});
@@ -74,6 +84,7 @@ void NameIndex::AddFolded(std::string_view part) {
 }
 
 void NameIndex::SortHits() {
+  if (hits_.size() < 2) return;
   std::sort(hits_.begin(), hits_.end(), [](const NameHit& left, const NameHit& right) {
     return left.position < right.position;
   });

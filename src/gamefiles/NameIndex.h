@@ -35,6 +35,7 @@ class NameIndex {
   int PositionOf(std::string_view name) const { return exact_.First(name); }
 
  private:
+  void FoldNames();
   void AddFolded(std::string_view part);
   void SortHits();
 

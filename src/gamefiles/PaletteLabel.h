@@ -7,8 +7,8 @@
 
 namespace wheelwright {
 
-// The name, " - ", then red, green and blue in decimal with "," between them: "Color94 -
-// 0,128,255".
+// The name, " - ", then red, green and blue in decimal with "," between them:
+// "Color94 - 0,128,255".
 inline std::string PaletteLabel(const ColorEntry& color) {
   return color.ColorName + " - " + std::to_string(color.Red) + "," + std::to_string(color.Green) +
          "," + std::to_string(color.Blue);

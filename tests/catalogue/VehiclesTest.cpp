@@ -1,5 +1,6 @@
 #include "catalogue/Vehicles.h"
 #include "support/Exchange.h"
+#include "support/Records.h"
 #include "support/TestSession.h"
 
 #include <gtest/gtest.h>
@@ -74,13 +75,13 @@ TEST(HiddenButtons, AreHidden) {
 TEST(AddVehicle, AppendsABlankVehicleAndSaysItsName) {
   TestSession test;
   test.OpenHandling(kThreeVehicles);
-  const std::vector<Car> loaded = test.vars.Cars.Walk();
+  const std::vector<Car> loaded = RecordsOf(test.vars.Cars);
   Add(test);
   EXPECT_EQ(test.desktop.shown, Shown{"information: E063 'NEWCAR4'"});
   std::vector<Car> expected = loaded;
   expected.push_back(BlankVehicle("NEWCAR4"));
-  EXPECT_EQ(test.vars.Cars.Walk(), expected);
-  EXPECT_EQ(test.vars.Kopie_Cars.Walk(), loaded);
+  EXPECT_EQ(RecordsOf(test.vars.Cars), expected);
+  EXPECT_EQ(RecordsOf(test.vars.Kopie_Cars), loaded);
   EXPECT_FALSE(test.vars.IsSaved);
 }
 
@@ -137,11 +138,11 @@ TEST(AddVehicle, WithADefinitionFileOpenStillTouchesTheVehicles) {
   test.OpenHandling(kThreeVehicles);
   test.OpenDefinition(
       CrLf({"cars", "130, cab, cab, car, TAXI, TAXI, null, taxi, 10, 7, 0, 251, 0.7", "end"}));
-  const std::vector<IdeEntry> loaded = test.vars.Ides.Walk();
+  const std::vector<IdeEntry> loaded = RecordsOf(test.vars.Ides);
   Add(test);
   EXPECT_EQ(NamesOf(test.vars.Cars), (Rows{"CAB", "AMBULAN", "BUS", "NEWCAR4"}));
   EXPECT_EQ(test.main.cmbAutos.Rows(), (Rows{"NEWCAR4", "TAXI"}));
-  EXPECT_EQ(test.vars.Ides.Walk(), loaded);
+  EXPECT_EQ(RecordsOf(test.vars.Ides), loaded);
 }
 
 TEST(DeleteVehicle, ANoChangesNothing) {
@@ -157,12 +158,12 @@ TEST(DeleteVehicle, ANoChangesNothing) {
 TEST(DeleteVehicle, TakesTheChosenOneOutOfTableAndList) {
   TestSession test;
   test.OpenHandling(kThreeVehicles);
-  const std::vector<Car> loaded = test.vars.Cars.Walk();
+  const std::vector<Car> loaded = RecordsOf(test.vars.Cars);
   test.main.cmbAutos.ChooseByHand(1);
   Delete(test);
   EXPECT_EQ(test.desktop.shown, (Shown{"yesno: E091", "information: E092"}));
-  EXPECT_EQ(test.vars.Cars.Walk(), (std::vector<Car>{loaded.at(0), loaded.at(1)}));
-  EXPECT_EQ(test.vars.Kopie_Cars.Walk(), loaded);
+  EXPECT_EQ(RecordsOf(test.vars.Cars), (std::vector<Car>{loaded.at(0), loaded.at(1)}));
+  EXPECT_EQ(RecordsOf(test.vars.Kopie_Cars), loaded);
   EXPECT_EQ(test.main.cmbAutos.Rows(), (Rows{"AMBULAN", "CAB"}));
   EXPECT_EQ(test.main.cmbAutos.Row(), 0);
   EXPECT_EQ(test.main.txtAutoname.Text(), "AMBULAN");
@@ -198,12 +199,12 @@ TEST(DeleteVehicle, LeavesTheIndexOneTooHighBehindTheDeletedRecord) {
 TEST(DeleteVehicle, TheOnlyOneFailsAndStaysInTheTable) {
   TestSession test;
   test.OpenHandling(CrLf({VehicleLineOf("BUS")}));
-  const std::vector<Car> loaded = test.vars.Cars.Walk();
+  const std::vector<Car> loaded = RecordsOf(test.vars.Cars);
   Delete(test);
   EXPECT_EQ(test.desktop.shown,
             (Shown{"yesno: E091", "error: Error: 380 - Invalid property value"}));
   EXPECT_EQ(test.main.cmbAutos.Rows(), Rows{});
-  EXPECT_EQ(test.vars.Cars.Walk(), loaded);
+  EXPECT_EQ(RecordsOf(test.vars.Cars), loaded);
   EXPECT_TRUE(test.vars.IsSaved);
 }
 
@@ -222,11 +223,11 @@ TEST(DeleteVehicle, WithADefinitionFileOpenStillTouchesTheVehicles) {
   test.OpenDefinition(
       CrLf({"cars", "130, cab, cab, car, CAB, TAXI, null, taxi, 10, 7, 0, 251, 0.7",
             "131, van, van, car, VAN, VAN, null, normal, 10, 7, 0, 251, 0.7", "end"}));
-  const std::vector<IdeEntry> loaded = test.vars.Ides.Walk();
+  const std::vector<IdeEntry> loaded = RecordsOf(test.vars.Ides);
   Delete(test);
   EXPECT_EQ(NamesOf(test.vars.Cars), (Rows{"AMBULAN", "BUS"}));
   EXPECT_EQ(test.main.cmbAutos.Rows(), Rows{"VAN"});
-  EXPECT_EQ(test.vars.Ides.Walk(), loaded);
+  EXPECT_EQ(RecordsOf(test.vars.Ides), loaded);
 }
 
 TEST(DeleteVehicle, BeforeAnyLoadFails) {

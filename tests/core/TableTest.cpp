@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 #include <string>
-#include <utility>
 
 namespace wheelwright::testing {
 namespace {
@@ -89,9 +88,8 @@ TEST(TableTest, AnUpperBoundPast32767Overflows) {
 TEST(TableTest, AWalkGoesThroughAllRecordsInOrder) {
   Table<Car> table = TableOf({"BUS", "VAN", "BUS"});
   std::string names;
-  for (Car& car : table.Walk()) names += std::exchange(car.CarName, "") + ";";
+  for (const Car& car : table.Walk()) names += car.CarName + ";";
   EXPECT_EQ(names, "BUS;VAN;BUS;");
-  EXPECT_EQ(table.At(2).CarName, "");
 }
 
 TEST(TableTest, ACopySharesNothingWithItsModel) {

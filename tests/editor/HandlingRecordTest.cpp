@@ -1,6 +1,7 @@
 // A vehicle of the handling file on screen.
 #include "editor/HandlingRecord.h"
 #include "support/HeldTables.h"
+#include "support/Records.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -141,8 +142,8 @@ TEST(HandlingRecord, LeavesEveryFieldOfEveryVehicleAsItWas) {
   const std::vector<Car> cars = {TaggedCar("AXO", "a"), odd, TaggedCar("CID", "c")};
   HoldCars(s, cars);
   for (const int row : {0, 1, 2, 1, 0, 2}) s.main.cmbAutos.ChooseByHand(row);
-  EXPECT_EQ(s.vars.Cars.Walk(), cars);
-  EXPECT_EQ(s.vars.Kopie_Cars.Walk(), cars);
+  EXPECT_EQ(RecordsOf(s.vars.Cars), cars);
+  EXPECT_EQ(RecordsOf(s.vars.Kopie_Cars), cars);
   EXPECT_EQ(s.main.cmbAutos.Rows(), (std::vector<std::string>{"AXO", "BYL", "CID"}));
 }
 

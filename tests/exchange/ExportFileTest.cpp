@@ -1,5 +1,6 @@
 #include "exchange/ExportFile.h"
 #include "support/Exchange.h"
+#include "support/Records.h"
 
 #include <gtest/gtest.h>
 #include <string>
@@ -148,10 +149,10 @@ TEST(ExportVehicles, ReplacesWhatWasThereUnderTheNameAsChosen) {
 TEST(ExportVehicles, ChangesNothingOfTheSession) {
   TestSession test;
   test.OpenHandling(kTwoVehicles);
-  const std::vector<Car> loaded = test.vars.Cars.Walk();
+  const std::vector<Car> loaded = RecordsOf(test.vars.Cars);
   ChooseAllForExport(test);
   ExportChosen(test);
-  EXPECT_EQ(test.vars.Cars.Walk(), loaded);
+  EXPECT_EQ(RecordsOf(test.vars.Cars), loaded);
   EXPECT_TRUE(test.vars.IsSaved);
   test.main.txtGewicht.EditByHand("1");
   ChooseAllForExport(test);

@@ -2,6 +2,7 @@
 #include "core/Failure.h"
 #include "exchange/Import.h"
 #include "support/Exchange.h"
+#include "support/Records.h"
 
 #include <gtest/gtest.h>
 #include <string>
@@ -31,12 +32,12 @@ Rows ListWith(const std::string& text) {
 TEST(ImportVehicles, AddsVehiclesToTableAndList) {
   TestSession test;
   OpenBusAndTaxi(test);
-  const std::vector<Car> loaded = test.vars.Cars.Walk();
+  const std::vector<Car> loaded = RecordsOf(test.vars.Cars);
   Import(test, CrLf({VehicleLineOf("VAN"), VehicleLineOf("AMBULAN")}));
   EXPECT_EQ(test.desktop.shown, kDone);
   EXPECT_EQ(test.main.cmbAutos.Rows(), (Rows{"AMBULAN", "BUS", "TAXI", "VAN"}));
   EXPECT_EQ(NamesOf(test.vars.Cars), (Rows{"TAXI", "BUS", "VAN", "AMBULAN"}));
-  EXPECT_EQ(test.vars.Kopie_Cars.Walk(), loaded);
+  EXPECT_EQ(RecordsOf(test.vars.Kopie_Cars), loaded);
   EXPECT_FALSE(test.vars.IsSaved);
   EXPECT_EQ(test.Disk(kImportPath), CrLf({VehicleLineOf("VAN"), VehicleLineOf("AMBULAN")}));
 }
@@ -169,12 +170,12 @@ TEST(ImportVehicles, WithADefinitionFileOpenAddsToTheVehiclesAndTheList) {
   OpenBusAndTaxi(test);
   test.OpenDefinition(
       CrLf({"cars", "130, cab, cab, car, CAB, CAB, null, taxi, 10, 7, 0, 251, 0.7", "end"}));
-  const std::vector<IdeEntry> definitions = test.vars.Ides.Walk();
+  const std::vector<IdeEntry> definitions = RecordsOf(test.vars.Ides);
   Import(test, CrLf({VehicleLineOf("VAN")}));
   EXPECT_EQ(test.desktop.shown, kDone);
   EXPECT_EQ(test.main.cmbAutos.Rows(), (Rows{"CAB", "VAN"}));
   EXPECT_EQ(NamesOf(test.vars.Cars), (Rows{"TAXI", "BUS", "VAN"}));
-  EXPECT_EQ(test.vars.Ides.Walk(), definitions);
+  EXPECT_EQ(RecordsOf(test.vars.Ides), definitions);
 }
 
 TEST(ImportVehicles, WithAColorFileOpenAddsToTheVehiclesAndTheList) {

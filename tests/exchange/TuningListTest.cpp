@@ -1,6 +1,7 @@
 #include "core/Failure.h"
 #include "exchange/ExportFile.h"
 #include "support/Exchange.h"
+#include "support/Records.h"
 
 #include <gtest/gtest.h>
 #include <optional>
@@ -104,10 +105,10 @@ TEST(WriteTuningList, SaysNothingAndCanBeRepeatedAtOnce) {
 TEST(WriteTuningList, LeavesTableAndFlagAlone) {
   TestSession test;
   test.OpenHandling(CrLf({VehicleLineOf("BUS")}));
-  const std::vector<Car> loaded = test.vars.Cars.Walk();
+  const std::vector<Car> loaded = RecordsOf(test.vars.Cars);
   ChooseAllForExport(test);
   Written(test);
-  EXPECT_EQ(test.vars.Cars.Walk(), loaded);
+  EXPECT_EQ(RecordsOf(test.vars.Cars), loaded);
   EXPECT_TRUE(test.vars.IsSaved);
 }
 

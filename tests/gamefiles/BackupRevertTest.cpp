@@ -1,5 +1,6 @@
 #include "core/Failure.h"
 #include "gamefiles/BackupRevert.h"
+#include "support/Records.h"
 #include "support/TestSession.h"
 
 #include <array>
@@ -172,7 +173,7 @@ TEST(RevertToSnapshot, BringsTheVehiclesBackAndShowsTheFirst) {
   test.main.txtGewicht.EditByHand("1");
   AnswerAndRevert(test);
   EXPECT_EQ(test.desktop.shown, (Shown{"yesno: E098", "information: E099"}));
-  EXPECT_EQ(test.vars.Cars.Walk(), test.vars.Kopie_Cars.Walk());
+  EXPECT_EQ(RecordsOf(test.vars.Cars), RecordsOf(test.vars.Kopie_Cars));
   EXPECT_EQ(test.vars.Cars.At(0).Mass, "1500.0");
   EXPECT_EQ(test.main.cmbAutos.Rows(), (Rows{"BUS", "TAXI"}));
   EXPECT_EQ(test.main.cmbAutos.Row(), 0);
@@ -211,9 +212,9 @@ TEST(RevertToSnapshot, GoesBackToTheLastSave) {
   test.main.cmbAutos.ChooseByHand(1);
   test.main.txtGewicht.EditByHand("1");
   test.main.cmdSave.ClickByHand();
-  const std::vector<Car> saved = test.vars.Cars.Walk();
+  const std::vector<Car> saved = RecordsOf(test.vars.Cars);
   AnswerAndRevert(test);
-  EXPECT_EQ(test.vars.Cars.Walk(), saved);
+  EXPECT_EQ(RecordsOf(test.vars.Cars), saved);
   EXPECT_EQ(saved.at(0).Mass, "1");
   EXPECT_EQ(test.main.cmbAutos.Rows(), (Rows{"BUS", "TAXI"}));
   EXPECT_EQ(test.main.txtAutoname.Text(), "BUS");
@@ -234,9 +235,9 @@ TEST(RevertToSnapshot, LaterEditsDontReachTheSnapshot) {
 TEST(RevertToSnapshot, ListsADoubledNameTwice) {
   TestSession test;
   test.OpenHandling(CrLf({VehicleLineOf("BUS", "1.0"), VehicleLineOf("BUS", "2.0")}));
-  const std::vector<Car> loaded = test.vars.Cars.Walk();
+  const std::vector<Car> loaded = RecordsOf(test.vars.Cars);
   AnswerAndRevert(test);
-  EXPECT_EQ(test.vars.Cars.Walk(), loaded);
+  EXPECT_EQ(RecordsOf(test.vars.Cars), loaded);
   EXPECT_EQ(loaded.size(), 4U);
   EXPECT_EQ(test.main.cmbAutos.Rows(), (Rows{"BUS", "BUS", "BUS", "BUS"}));
 }
@@ -259,7 +260,7 @@ TEST(RevertToSnapshot, BringsTheDefinitionsBack) {
   test.main.txtLevel.EditByHand("3");
   AnswerAndRevert(test);
   EXPECT_EQ(test.desktop.shown, (Shown{"yesno: E098", "information: E099"}));
-  EXPECT_EQ(test.vars.Ides.Walk(), test.vars.Kopie_Ides.Walk());
+  EXPECT_EQ(RecordsOf(test.vars.Ides), RecordsOf(test.vars.Kopie_Ides));
   EXPECT_EQ(test.vars.Ides.At(0).HandlingID, "TAXI");
   EXPECT_EQ(test.vars.Ides.At(0).Level, "7");
   EXPECT_EQ(test.main.cmbAutos.Rows(), (Rows{"BUS", "TAXI"}));
@@ -285,7 +286,7 @@ TEST(RevertToSnapshot, ADeletedColorIsBackWithItsPairs) {
   EXPECT_EQ(test.vars.CarColors.At(0).Color1, Numbers{0});
   AnswerAndRevert(test);
   EXPECT_EQ(test.desktop.shown, (Shown{"yesno: E098", "information: E099"}));
-  EXPECT_EQ(test.vars.Colors.Walk(), test.vars.Kopie_Colors.Walk());
+  EXPECT_EQ(RecordsOf(test.vars.Colors), RecordsOf(test.vars.Kopie_Colors));
   EXPECT_EQ(test.vars.Colors.At(1), (ColorEntry{1, 10, 20, 30, "sea"}));
   EXPECT_EQ(test.vars.CarColors.At(0), (CarColorEntry{"taxi", {1}, {2}}));
   EXPECT_EQ(test.vars.CarColors.At(1), (CarColorEntry{"bus", {2, 0}, {1, 1}}));

@@ -1,5 +1,6 @@
 // Which entry of the language table stands where on screen.
 #include "language/ApplyLanguage.h"
+#include "support/Records.h"
 #include "support/TestSession.h"
 
 #include <gtest/gtest.h>
@@ -262,14 +263,14 @@ TEST(ApplyLanguage, NoChoiceChangesAndNoHandlerRuns) {
   s.main.cmbFrontLichter.ChooseByHand(3);
   s.main.cmbRearLichter.ChooseByHand(2);
   s.vars.IsSaved = true;
-  const std::vector<Car> before = s.vars.Cars.Walk();
+  const std::vector<Car> before = RecordsOf(s.vars.Cars);
   FillLang(s, "foreign");
   ApplyLanguage(s.session);
   EXPECT_EQ(s.main.cmbAntrieb.Row(), 2);
   EXPECT_EQ(s.main.cmbMotor.Row(), 1);
   EXPECT_EQ(s.main.cmbFrontLichter.Row(), 3);
   EXPECT_EQ(s.main.cmbRearLichter.Row(), 2);
-  EXPECT_EQ(s.vars.Cars.Walk(), before);
+  EXPECT_EQ(RecordsOf(s.vars.Cars), before);
   EXPECT_TRUE(s.vars.IsSaved);
 }
 

@@ -1,6 +1,7 @@
 // Finding, choosing and reading the language files beside the program.
 #include "language/LanguageFiles.h"
 #include "support/HeldTables.h"
+#include "support/Records.h"
 #include "support/Thrown.h"
 
 #include <gtest/gtest.h>
@@ -271,10 +272,10 @@ TEST(Language, AClickChangesNeitherTheFileNorTheTablesNorTheVehicle) {
   AddLanguage(s, "Eins", Numbered("a", 182));
   AddLanguage(s, "Zwei", Numbered("b", 182));
   DiscoverLanguages(s.session);
-  const std::vector<Car> cars = s.vars.Cars.Walk();
+  const std::vector<Car> cars = RecordsOf(s.vars.Cars);
   s.files.written.clear();
   s.main.cmbSprache.ChooseByHand(1);
-  EXPECT_EQ(s.vars.Cars.Walk(), cars);
+  EXPECT_EQ(RecordsOf(s.vars.Cars), cars);
   EXPECT_EQ(s.main.cmbAutos.Text(), "BYL");
   EXPECT_EQ(s.vars.CurrentCar, 1);
   EXPECT_TRUE(s.vars.IsSaved);

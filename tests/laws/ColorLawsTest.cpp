@@ -5,6 +5,7 @@
 #include "support/DefinitionReference.h"
 #include "support/Generators.h"
 #include "support/HandlingReference.h"
+#include "support/Records.h"
 #include "support/TableTexts.h"
 #include "support/TestSession.h"
 #include "support/Thrown.h"
@@ -111,17 +112,6 @@ std::string AnyFile() {
          Mark() + "\r\n";
 }
 
-template <class Record>
-Table<Record> TableOf(const std::vector<Record>& records) {
-  Table<Record> table;
-  for (const Record& record : records) {
-    const int next = table.Count();
-    table.ExtendTo(next);
-    table.At(next) = record;
-  }
-  return table;
-}
-
 std::string Joined(const Texts& lines) {
   std::string text;
   for (const std::string& line : lines) text += line + "\r\n";
@@ -203,12 +193,12 @@ RC_GTEST_PROP(ColorLaws, TheReaderReadsWhatAPlainOneReads, ()) {
   const bool ended = plain.failure == 0 && plain.damagedLine == 0;
   RC_ASSERT(failure == (ended && nothingToChoose ? 380 : plain.failure));
   RC_ASSERT(damagedLine.value_or(0) == plain.damagedLine);
-  RC_ASSERT(test.vars.Kopie_Colors.Walk() == plain.colors);
+  RC_ASSERT(RecordsOf(test.vars.Kopie_Colors) == plain.colors);
   RC_ASSERT(test.main.lstColors.Rows() == plain.labels);
   RC_ASSERT(test.vars.Colors.IsAllocated() == plain.firstPassEnded);
   if (!plain.firstPassEnded) return;
-  RC_ASSERT(test.vars.Colors.Walk() == plain.colors);
-  RC_ASSERT(test.vars.Kopie_CarColors.Walk() == plain.carColors);
+  RC_ASSERT(RecordsOf(test.vars.Colors) == plain.colors);
+  RC_ASSERT(RecordsOf(test.vars.Kopie_CarColors) == plain.carColors);
   if (!ended) return;
   RC_ASSERT(Sorted(test.main.cmbAutos.Rows()) == Sorted(plain.keys));
   RC_ASSERT(test.main.cmbColor1.Rows() == plain.labels);
@@ -258,11 +248,11 @@ RC_GTEST_PROP(ColorLaws, TheSavedFileGivesTheSameTablesWithTheColorsNumberedAnew
   test.desktop.answers.push_back(true);
   RC_PRE(test.main.lstColors.Count() > 1);
   test.main.cmdDeleteColor.ClickByHand();
-  std::vector<ColorEntry> colors = test.vars.Colors.Walk();
+  std::vector<ColorEntry> colors = RecordsOf(test.vars.Colors);
   for (std::size_t i = 0; i < colors.size(); ++i) colors[i].Index = static_cast<std::int16_t>(i);
   const Texts vehicles = TextsOf(test.vars.CarColors);
   RC_ASSERT(Opened(test, Saved(test)));
-  RC_ASSERT(test.vars.Colors.Walk() == colors);
+  RC_ASSERT(RecordsOf(test.vars.Colors) == colors);
   RC_ASSERT(TextsOf(test.vars.Kopie_CarColors) == vehicles);
 }
 

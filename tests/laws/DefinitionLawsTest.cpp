@@ -4,6 +4,7 @@
 #include "support/DefinitionReference.h"
 #include "support/Generators.h"
 #include "support/HandlingReference.h"
+#include "support/Records.h"
 #include "support/TableTexts.h"
 #include "support/TestSession.h"
 
@@ -97,16 +98,6 @@ std::vector<IdeEntry> AnyTable() {
   return read.records;
 }
 
-Table<IdeEntry> TableOf(const std::vector<IdeEntry>& records) {
-  Table<IdeEntry> table;
-  for (const IdeEntry& record : records) {
-    const int next = table.Count();
-    table.ExtendTo(next);
-    table.At(next) = record;
-  }
-  return table;
-}
-
 std::string Joined(const Texts& lines) {
   std::string text;
   for (const std::string& line : lines) text += line + "\r\n";
@@ -156,10 +147,10 @@ RC_GTEST_PROP(DefinitionLaws, TheReaderReadsWhatAPlainOneReads, ()) {
   const std::optional<int> damagedLine = LoadDefinitionFile(test.session);
   const PlainDefinitions plain = ReadDefinitionsPlainly(text);
   RC_ASSERT(damagedLine.value_or(0) == plain.damagedLine);
-  RC_ASSERT(test.vars.Kopie_Ides.Walk() == plain.records);
+  RC_ASSERT(RecordsOf(test.vars.Kopie_Ides) == plain.records);
   RC_ASSERT(test.vars.Ides.IsAllocated() == !damagedLine);
   if (damagedLine) return;
-  RC_ASSERT(test.vars.Ides.Walk() == plain.records);
+  RC_ASSERT(RecordsOf(test.vars.Ides) == plain.records);
   Texts keys = plain.keys;
   Texts rows = test.main.cmbAutos.Rows();
   std::sort(keys.begin(), keys.end());
@@ -175,7 +166,7 @@ RC_GTEST_PROP(DefinitionLaws, TheWriterWritesWhatAPlainOneWrites, ()) {
   test.vars.CurrentFile = kPath;
   test.vars.Ides = TableOf(ides);
   RC_ASSERT(RewriteDefinitionText(test.session) == WriteDefinitionsPlainly(text, ides));
-  RC_ASSERT(test.vars.Kopie_Ides.Walk() == ides);
+  RC_ASSERT(RecordsOf(test.vars.Kopie_Ides) == ides);
 }
 
 RC_GTEST_PROP(DefinitionLaws, ASaveChangesNothingAroundTheSection, ()) {
@@ -205,10 +196,10 @@ IdeEntry AsWritten(IdeEntry entry) {
 RC_GTEST_PROP(DefinitionLaws, TheSavedFileGivesTheSameTableButForTheExtrasThatItLacks, ()) {
   TestSession test;
   RC_ASSERT(Opened(test, AnyGoodFile().Text()));
-  std::vector<IdeEntry> expected = test.vars.Ides.Walk();
+  std::vector<IdeEntry> expected = RecordsOf(test.vars.Ides);
   std::transform(expected.begin(), expected.end(), expected.begin(), AsWritten);
   RC_ASSERT(Opened(test, Saved(test)));
-  RC_ASSERT(test.vars.Ides.Walk() == expected);
+  RC_ASSERT(RecordsOf(test.vars.Ides) == expected);
 }
 
 RC_GTEST_PROP(DefinitionLaws, ASavedFileThatIsLoadedAndSavedAgainOnlyGrowsByAnEmptyLine, ()) {

@@ -1,8 +1,8 @@
 // What holds for the way of vehicles from one session to another, whatever they are.
-#include "gamefiles/HandlingLine.h"
-#include "gamefiles/Lines.h"
 #include "screen/HandlingFields.h"
 #include "support/Exchange.h"
+#include "support/ImportReference.h"
+#include "support/Records.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -46,7 +46,7 @@ void AddCar(TestSession& test, const Car& car) {
 }
 
 std::vector<Car> AllBut(const TestSession& test, std::size_t first) {
-  const std::vector<Car>& cars = test.vars.Cars.Walk();
+  const std::vector<Car>& cars = RecordsOf(test.vars.Cars);
   return {cars.begin() + static_cast<std::ptrdiff_t>(first), cars.end()};
 }
 
@@ -90,38 +90,7 @@ RC_GTEST_PROP(ExchangeLaws, ExportedVehiclesComeBackWithAllTheirTexts, ()) {
   RC_ASSERT(to.LastShown() == "information: E115");
   std::vector<std::string> rows = chosen;
   rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
-  RC_ASSERT(AllBut(to, 1) == Expected(from.vars.Cars.Walk(), chosen, rows));
-}
-
-// The import as one would tell it: row by row, line by line.
-void PlainImport(Session& session, const std::string& text) {
-  PickList& list = session.main.cmbAutos;
-  for (const std::string_view line : Lines(text)) {
-    std::string name(line.substr(0, 14));
-    if (line.size() <= 14 || name.find(';') != std::string::npos) continue;
-    while (!name.empty() && name.front() == ' ') name.erase(0, 1);
-    while (!name.empty() && name.back() == ' ') name.pop_back();
-    if (std::count(list.Rows().begin(), list.Rows().end(), name) == 0) list.AddRow(name);
-  }
-  int next = session.vars.Cars.UpperBound() + 1;
-  for (const std::string_view wholeLine : Lines(text)) {
-    std::string line(wholeLine);
-    for (const std::string& row : list.Rows()) {
-      if (line.substr(0, row.size()) != row) continue;
-      session.vars.Cars.ExtendTo(next);
-      const int count = CountSpaceFields(line);
-      if (count != 33) {
-        const std::string vehicle = count == 0 ? "0.0" : line.substr(0, line.find(' '));
-        session.error.lstErrors.AddRow({vehicle, "", "E102: " + std::to_string(count) + " E103"});
-      }
-      for (int token = 0; token < 33; ++token) {
-        session.vars.Cars.At(next).*kHandlingFields[static_cast<std::size_t>(token)].value =
-            ParseHandlingToken(session, line, token);
-      }
-      ++next;
-    }
-  }
-  list.Choose(0);
+  RC_ASSERT(AllBut(to, 1) == Expected(RecordsOf(from.vars.Cars), chosen, rows));
 }
 
 std::string AnyLine() {
@@ -153,7 +122,7 @@ RC_GTEST_PROP(ExchangeLaws, AnImportGivesWhatAPlainWalkOverRowsAndLinesGives, ()
   PlainImport(plain.session, text);
   RC_ASSERT(quick.LastShown() == "information: E115");
   RC_ASSERT(quick.main.cmbAutos.Rows() == plain.main.cmbAutos.Rows());
-  RC_ASSERT(quick.vars.Cars.Walk() == plain.vars.Cars.Walk());
+  RC_ASSERT(RecordsOf(quick.vars.Cars) == RecordsOf(plain.vars.Cars));
   RC_ASSERT(quick.error.lstErrors.Rows() == plain.error.lstErrors.Rows());
 }
 

@@ -4,6 +4,7 @@
 #include "gamefiles/HandlingWriter.h"
 #include "support/Generators.h"
 #include "support/HandlingReference.h"
+#include "support/Records.h"
 #include "support/TestSession.h"
 #include "support/Thrown.h"
 #include "support/VehicleTokens.h"
@@ -166,7 +167,7 @@ RC_GTEST_PROP(HandlingLaws, TheReaderReadsWhatAPlainOneReads, ()) {
   const Table<Car> records = TableOf(plain.records);
   RC_ASSERT(TokensOf(test.vars.Kopie_Cars) == TokensOf(records));
   RC_ASSERT(KindsOf(test.vars.Kopie_Cars) == KindsOf(records));
-  if (failure == 0) RC_ASSERT(test.vars.Cars.Walk() == plain.records);
+  if (failure == 0) RC_ASSERT(RecordsOf(test.vars.Cars) == plain.records);
 }
 
 RC_GTEST_PROP(HandlingLaws, TheWriterWritesWhatAPlainOneWrites, ()) {
@@ -241,12 +242,12 @@ RC_GTEST_PROP(HandlingLaws, TheSavedFileGivesTheSameRecords, ()) {
   RC_PRE(!file.vehicles.empty());
   TestSession test;
   test.OpenHandling(file.text);
-  std::vector<Car> before = test.vars.Kopie_Cars.Walk();
+  std::vector<Car> before = RecordsOf(test.vars.Kopie_Cars);
   std::sort(before.begin(), before.end(),
             [](const Car& left, const Car& right) { return left.CarName < right.CarName; });
   test.OpenHandling(Saved(test));
   RC_ASSERT(test.LastShown() == "normal");
-  RC_ASSERT(test.vars.Kopie_Cars.Walk() == before);
+  RC_ASSERT(RecordsOf(test.vars.Kopie_Cars) == before);
 }
 
 }  // namespace

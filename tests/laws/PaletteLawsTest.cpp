@@ -2,6 +2,7 @@
 #include "catalogue/Palette.h"
 #include "support/ColorReference.h"
 #include "support/PaletteModel.h"
+#include "support/Records.h"
 #include "support/TableTexts.h"
 #include "support/TestSession.h"
 #include "support/Thrown.h"
@@ -143,7 +144,7 @@ RC_GTEST_PROP(PaletteLaws, EverySequenceOfEditsLeavesWhatThePlainModelHas, ()) {
   test.OpenColors("col\r\n" + AnyColors() + "end\r\ncar\r\n" + AnyVehicles() + "end\r\n");
   RC_ASSERT(test.LastShown() == "normal");
   test.desktop.shown.clear();
-  PaletteModel model(test.vars.Kopie_Colors.Walk(), test.vars.Kopie_CarColors.Walk(),
+  PaletteModel model(RecordsOf(test.vars.Kopie_Colors), RecordsOf(test.vars.Kopie_CarColors),
                      test.main.cmbAutos.Text());
   RC_ASSERT(StateOf(test) == model.State());
   bool everEmpty = false;

@@ -23,21 +23,6 @@ bool HoldsInAnyCase(const std::string& text, const std::string& part) {
   return Holds(FoldedCase(text), FoldedCase(part));
 }
 
-Tokens TokensOfLine(std::string line) {
-  for (char& byte : line) {
-    if (byte == '\t') byte = ' ';
-  }
-  for (auto at = line.find("  "); at != std::string::npos; at = line.find("  ")) line.erase(at, 1);
-  line = CutBlanks(line);
-  Tokens tokens;
-  while (!line.empty()) {
-    const std::string token = line.substr(0, line.find(' '));
-    tokens.push_back(token);
-    line = CutBlanks(line.substr(token.size()));
-  }
-  return tokens;
-}
-
 class PlainReader {
  public:
   explicit PlainReader(const FrmMain& captions) : captions_(captions) {}
@@ -58,7 +43,7 @@ class PlainReader {
     const std::string head = line.substr(0, kHead);
     const bool marked = head.find_first_of(";%$!") != std::string::npos;
     if (line.size() > kHead && !marked) {
-      AddName(ParsedToken(TokensOfLine(CutBlanks(head)), 0));
+      AddName(ParsedToken(PlainTokens(CutBlanks(head)), 0));
       return;
     }
     const auto semicolon = head.find(';');
@@ -87,7 +72,7 @@ class PlainReader {
     if (Holds(line, "$")) kind = 3;
     for (std::size_t j = 0; j < read_.names.size(); ++j) {
       const std::string& name = read_.names[j];
-      if (line.substr(0, name.size()) == name) MakeRecord(TokensOfLine(line));
+      if (line.substr(0, name.size()) == name) MakeRecord(PlainTokens(line));
       if (kind != 0 && HoldsInAnyCase(line, name)) Mark(j, kind);
       if (read_.failure != 0) return;
     }
@@ -159,6 +144,21 @@ std::vector<std::string> PlainLines(const std::string& text) {
   }
   if (!line.empty()) lines.push_back(line);
   return lines;
+}
+
+Tokens PlainTokens(std::string line) {
+  for (char& byte : line) {
+    if (byte == '\t') byte = ' ';
+  }
+  for (auto at = line.find("  "); at != std::string::npos; at = line.find("  ")) line.erase(at, 1);
+  line = CutBlanks(line);
+  Tokens tokens;
+  while (!line.empty()) {
+    const std::string token = line.substr(0, line.find(' '));
+    tokens.push_back(token);
+    line = CutBlanks(line.substr(token.size()));
+  }
+  return tokens;
 }
 
 PlainHandling ReadPlainly(const std::string& text, const FrmMain& captions) {

@@ -26,6 +26,9 @@ struct PlainHandling {
 // The lines of a text: each ends at a carriage return, with or without a line feed behind it.
 std::vector<std::string> PlainLines(const std::string& text);
 
+// The tokens of a line between its blanks and tabs.
+std::vector<std::string> PlainTokens(std::string line);
+
 // Reads with the captions of this window and with a language whose entry n is "Ennn".
 PlainHandling ReadPlainly(const std::string& text, const FrmMain& captions);
 

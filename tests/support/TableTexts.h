@@ -26,6 +26,17 @@ Texts TextsOf(const Table<Record>& table) {
   return texts;
 }
 
+template <class Record>
+Table<Record> TableOf(const std::vector<Record>& records) {
+  Table<Record> table;
+  for (const Record& record : records) {
+    const int next = table.Count();
+    table.ExtendTo(next);
+    table.At(next) = record;
+  }
+  return table;
+}
+
 // The two lines on top of a saved definition or colour file.
 inline constexpr const char* kBanner =
     "# File created with Wheelwright V1.0.0\r\n"

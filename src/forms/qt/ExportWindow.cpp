@@ -1,7 +1,6 @@
 #include "forms/qt/ExportWindow.h"
 
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QMargins>
 #include <QVBoxLayout>
 
@@ -29,16 +28,18 @@ void AddList(Label& caption, MarkList& list, Column column, QGridLayout& grid, Q
   QWidget& rows = mirrors.Add(list, window).Widget();
   rows.setMinimumSize(kListSize);
   name.Name(rows);
-  name.Widget().setMinimumHeight(kLabelHeight);
   grid.addWidget(&name.Widget(), 0, column);
   grid.addWidget(&rows, 1, column);
   grid.setColumnStretch(column, 1);
 }
 
+// A large font needs more than the design.
 QWidget* Arrow(Button& button, QWidget* window, MirrorSet& mirrors) {
   QWidget& arrow = mirrors.Add(button, window).Widget();
-  arrow.setMinimumSize(kArrowSize);
-  arrow.setMaximumWidth(kArrowSize.width());
+  const QSize needed(arrow.fontMetrics().horizontalAdvance(">>>>"), arrow.sizeHint().height());
+  const QSize size = kArrowSize.expandedTo(needed);
+  arrow.setMinimumSize(size);
+  arrow.setMaximumWidth(size.width());
   return &arrow;
 }
 
@@ -54,18 +55,24 @@ QLayout* Arrows(FrmExport& exporter, QWidget* window, MirrorSet& mirrors) {
   return column;
 }
 
+// As wide and high as the row gives, which is at least what its caption needs.
+QWidget* BottomButton(Button& button, QWidget* window, MirrorSet& mirrors) {
+  QWidget& widget = mirrors.Add(button, window).Widget();
+  widget.setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Preferred);
+  return &widget;
+}
+
 QLayout* BottomRow(FrmExport& exporter, QWidget* window, MirrorSet& mirrors) {
-  QWidget& write = mirrors.Add(exporter.cmdExport, window).Widget();
-  QWidget& close = mirrors.Add(exporter.cmdClose, window).Widget();
-  QWidget& hidden = mirrors.Add(exporter.Spez, window).Widget();
-  write.setMinimumSize(kButtonSize);
-  close.setMinimumSize(kButtonSize);
-  auto* row = new QHBoxLayout;
+  enum { kHiddenPlace, kSpace, kExportPlace, kClosePlace };
+  auto* row = new QGridLayout;
   row->setSpacing(kGap);
-  row->addWidget(&hidden);
-  row->addStretch();
-  row->addWidget(&write);
-  row->addWidget(&close);
+  row->setRowMinimumHeight(0, kButtonSize.height());
+  row->setColumnMinimumWidth(kExportPlace, kButtonSize.width());
+  row->setColumnMinimumWidth(kClosePlace, kButtonSize.width());
+  row->setColumnStretch(kSpace, 1);
+  row->addWidget(BottomButton(exporter.cmdExport, window, mirrors), 0, kExportPlace);
+  row->addWidget(BottomButton(exporter.cmdClose, window, mirrors), 0, kClosePlace);
+  row->addWidget(BottomButton(exporter.Spez, window, mirrors), 0, kHiddenPlace);
   return row;
 }
 
@@ -75,6 +82,7 @@ ExportWindow::ExportWindow(FrmExport& exporter, EventEdge& edge, MirrorSet& mirr
     : WindowShell(exporter, edge, owner) {
   auto* grid = new QGridLayout;
   grid->setSpacing(kGap);
+  grid->setRowMinimumHeight(0, kLabelHeight);
   AddList(exporter.lblExportCar, exporter.lst1, kAvailable, *grid, this, mirrors);
   grid->addLayout(Arrows(exporter, this, mirrors), 1, kArrows);
   AddList(exporter.lblExport, exporter.lst2, kChosen, *grid, this, mirrors);

@@ -35,7 +35,9 @@ bool IsInput(const QWidget& widget) {
          qobject_cast<const QCheckBox*>(&widget) != nullptr;
 }
 
+// Some systems speak a combo box's text first and find its name by its label.
 QString SpokenName(QWidget& widget) {
+  if (qobject_cast<const QComboBox*>(&widget) != nullptr) return widget.accessibleName();
   return QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Name);
 }
 

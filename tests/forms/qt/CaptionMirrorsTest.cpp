@@ -80,6 +80,7 @@ TEST_F(CaptionMirrorsTest, AButtonIsClickedByMouseAndKeys) {
   auto& widget = Show<QPushButton>(button);
   QTest::mouseClick(&widget, Qt::LeftButton);
   QTest::keyClick(&elsewhere, Qt::Key_S, Qt::AltModifier);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return runs == 2; }));
   widget.setFocus();
   QTest::keyClick(&widget, Qt::Key_Space);
   EXPECT_EQ(runs, 3);

@@ -83,7 +83,8 @@ bool LieApart(const QWidget& one, const QWidget& other) {
 TEST_P(LayoutTest, NoCaptionIsCutOff) {
   Walk([this](Window& plain, QWidget&) {
     for (const QWidget* widget : Showing(plain)) {
-      EXPECT_TRUE(ShowsWhole(*widget)) << widget->objectName().toStdString();
+      EXPECT_TRUE(ShowsWhole(*widget)) << widget->objectName().toStdString() << " in "
+                                       << ::testing::PrintToString(widget->size());
     }
   });
 }

@@ -1,5 +1,6 @@
 // A list box and its list view, in both directions.
 #include "forms/qt/MirrorBench.h"
+#include "forms/qt/Settle.h"
 
 #include <QScrollBar>
 #include <QtTest/QTest>
@@ -18,7 +19,7 @@ class ListBoxMirrorTest : public MirrorBench {
   ListBoxMirrorTest() {
     list.AddRows(Numbered(100));
     list.clicked = Counts();
-    QCoreApplication::processEvents();
+    Settle();
   }
 
   void ClickRow(int row, Qt::KeyboardModifiers modifiers = {}) {
@@ -41,7 +42,7 @@ TEST_F(ListBoxMirrorTest, TheFocusChoosesNothing) {
        {Qt::TabFocusReason, Qt::MouseFocusReason, Qt::ShortcutFocusReason}) {
     elsewhere.setFocus();
     view.setFocus(reason);
-    QCoreApplication::processEvents();
+    Settle();
     EXPECT_TRUE(view.hasFocus());
     EXPECT_EQ(Row(), -1);
   }
@@ -115,12 +116,12 @@ TEST_F(ListBoxMirrorTest, OtherRowsChooseNothing) {
 
 TEST_F(ListBoxMirrorTest, ANewTextKeepsChoiceAndPlace) {
   list.Choose(90);
-  QCoreApplication::processEvents();
+  Settle();
   view.verticalScrollBar()->setValue(70);
   runs = 0;
   list.ReplaceRow(90, "other");
   list.ReplaceRow(0, "first");
-  QCoreApplication::processEvents();
+  Settle();
   EXPECT_EQ(Row(), 90);
   EXPECT_EQ(view.verticalScrollBar()->value(), 70);
   EXPECT_EQ(runs, 0);
@@ -130,7 +131,7 @@ TEST_F(ListBoxMirrorTest, RowsThatGoAndComeKeepThePlace) {
   view.verticalScrollBar()->setValue(40);
   list.RemoveRow(95);
   list.AddRow("new");
-  QCoreApplication::processEvents();
+  Settle();
   EXPECT_EQ(view.verticalScrollBar()->value(), 40);
   EXPECT_EQ(Row(), -1);
 }

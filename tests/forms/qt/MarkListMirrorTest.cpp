@@ -1,5 +1,6 @@
 // A list with marks and its view with extended selection, in both directions.
 #include "forms/qt/MirrorBench.h"
+#include "forms/qt/Settle.h"
 
 #include <QtTest/QTest>
 
@@ -12,7 +13,7 @@ class MarkListMirrorTest : public MirrorBench {
  protected:
   MarkListMirrorTest() {
     marks.AddRows({"a", "b", "c", "d", "e", "f"});
-    QCoreApplication::processEvents();
+    Settle();
   }
 
   void ClickRow(int row, Qt::KeyboardModifiers modifiers = {}) {
@@ -65,7 +66,7 @@ TEST_F(MarkListMirrorTest, TheKeyboardMarksToo) {
 
 TEST_F(MarkListMirrorTest, TheFocusMarksNothing) {
   view.setFocus(Qt::TabFocusReason);
-  QCoreApplication::processEvents();
+  Settle();
   EXPECT_TRUE(view.hasFocus());
   EXPECT_EQ(Rows(), Marked());
 }

@@ -1,5 +1,7 @@
 #include "forms/qt/MirrorBench.h"
 
+#include "forms/qt/Settle.h"
+
 #include <QtTest/QTest>
 
 namespace wheelwright::testing {
@@ -13,7 +15,7 @@ void MirrorBench::Raise(QWidget& widget) {
   window.activateWindow();
   EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
   elsewhere.setFocus();
-  QCoreApplication::processEvents();
+  Settle();
 }
 
 }  // namespace wheelwright::testing

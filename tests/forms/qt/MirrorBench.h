@@ -2,6 +2,7 @@
 #pragma once
 
 #include "forms/qt/MirrorSet.h"
+#include "forms/qt/QtPrinters.h"
 #include "forms/qt/RecordingEdge.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,8 @@
 // A person at the next box or dialog that comes up and waits.
 #pragma once
 
+#include "forms/qt/QtPrinters.h"
+
 #include <functional>
 #include <gtest/gtest.h>
 

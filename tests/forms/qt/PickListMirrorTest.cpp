@@ -1,5 +1,6 @@
 // A pick list and its combo box, in both directions.
 #include "forms/qt/MirrorBench.h"
+#include "forms/qt/Settle.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -19,7 +20,7 @@ class PickListMirrorTest : public MirrorBench {
 
   void ClickRow(int row) {
     combo.showPopup();
-    QCoreApplication::processEvents();
+    Settle();
     const QRect place = combo.view()->visualRect(combo.model()->index(row, 0));
     QTest::mouseClick(combo.view()->viewport(), Qt::LeftButton, {}, place.center());
   }

@@ -11,11 +11,12 @@
 namespace wheelwright::testing {
 namespace {
 
+constexpr const char* kOddVehicle = "<b>x</b>R&D";
 constexpr const char* kOddName = "<b>x</b>R&D%1";
 
 class PlainTextTest : public RealWindows {
  protected:
-  PlainTextTest() { test.OpenHandling(VehicleLineOf(kOddName)); }
+  PlainTextTest() { test.OpenHandling(VehicleLineOf(kOddVehicle)); }
 
   static QString FirstRow(const QWidget& view) {
     const QAbstractItemModel& model = *static_cast<const QAbstractItemView&>(view).model();
@@ -25,22 +26,22 @@ class PlainTextTest : public RealWindows {
 
 TEST_F(PlainTextTest, AVehiclesNameShowsInBoxesAndLists) {
   auto& autos = Of<QComboBox>(main.cmbAutos);
-  EXPECT_EQ(autos.currentText(), kOddName);
-  EXPECT_EQ(FirstRow(*autos.view()), kOddName);
-  EXPECT_EQ(Of<QLineEdit>(main.txtAutoname).text(), kOddName);
+  EXPECT_EQ(autos.currentText(), kOddVehicle);
+  EXPECT_EQ(FirstRow(*autos.view()), kOddVehicle);
+  EXPECT_EQ(Of<QLineEdit>(main.txtAutoname).text(), kOddVehicle);
   main.cmdExportCar.ClickByHand();
-  EXPECT_EQ(FirstRow(windows.Of(test.exporter.lst1)), kOddName);
+  EXPECT_EQ(FirstRow(windows.Of(test.exporter.lst1)), kOddVehicle);
   test.error.lstErrors.AddRow({kOddName, "", kOddName});
   EXPECT_EQ(FirstRow(windows.Of(test.error.lstErrors)), kOddName);
 }
 
 TEST_F(PlainTextTest, AColorsNameShowsInAllItsLists) {
-  test.OpenColors(std::string("col\r\n1,2,3 # 0 ") + kOddName + "\r\nend\r\ncar\r\nbus, 0,0\r\n" +
+  test.OpenColors(std::string("col\r\n1,2,3\t# 0 ") + kOddName + "\r\nend\r\ncar\r\nbus, 0,0\r\n" +
                   "end\r\n");
   const QString row = QString(kOddName) + " - 1,2,3";
   EXPECT_EQ(FirstRow(windows.Of(main.lstColors)), row);
   EXPECT_EQ(FirstRow(*Of<QComboBox>(main.cmbColor1).view()), row);
-  EXPECT_EQ(FirstRow(windows.Of(main.lstCarColors)), QString("%1 - %1").arg(kOddName));
+  EXPECT_EQ(FirstRow(windows.Of(main.lstCarColors)), QString(kOddName) + " - " + kOddName);
 }
 
 TEST_F(PlainTextTest, NoLabelGuessesMarkup) {

@@ -73,10 +73,11 @@ TEST(QtDesktopTest, ThePointerIsSetOnceAndGivenBack) {
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
-TEST(QtDesktopTest, TheEndIsRemembered) {
+TEST(QtDesktopTest, TheEndLeavesTheEventLoop) {
   QtDesktop desktop;
   EXPECT_FALSE(desktop.Ended());
-  desktop.EndProgram();
+  QTimer::singleShot(0, [&] { desktop.EndProgram(); });
+  EXPECT_EQ(QApplication::exec(), 0);
   EXPECT_TRUE(desktop.Ended());
 }
 
@@ -104,7 +105,9 @@ TEST(QtEdgeTest, AFailureThatNothingCaughtIsShownAndEndsTheEvents) {
   QtDesktop().SetPointer(Pointer::Hourglass);
   const BoxHand hand(QMessageBox::Critical, "Run-time error 9\nSubscript out of range",
                      QMessageBox::Ok);
-  edge.Enter([] { throw Failure(FailureNumber::SubscriptOutOfRange); });
+  QTimer::singleShot(
+      0, [&] { edge.Enter([] { throw Failure(FailureNumber::SubscriptOutOfRange); }); });
+  EXPECT_EQ(QApplication::exec(), 1);
   EXPECT_TRUE(edge.HasFailed());
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
   bool ran = false;

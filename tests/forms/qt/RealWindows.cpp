@@ -1,5 +1,7 @@
 #include "forms/qt/RealWindows.h"
 
+#include "forms/qt/Settle.h"
+
 #include <QtTest/QTest>
 
 namespace wheelwright::testing {
@@ -12,6 +14,7 @@ RealWindows::RealWindows() {
 void RealWindows::Activate(const Window& window) {
   windows.Of(window).activateWindow();
   EXPECT_TRUE(QTest::qWaitForWindowActive(&windows.Of(window)));
+  Settle();
 }
 
 std::string RealWindows::Differences() {

@@ -1,6 +1,7 @@
 // A wired session over fakes with its three real windows; the main one is up and active.
 #pragma once
 
+#include "forms/qt/QtPrinters.h"
 #include "forms/qt/RecordingEdge.h"
 #include "forms/qt/WindowSet.h"
 #include "support/TestSession.h"

@@ -1,7 +1,7 @@
 // A list in report form and its view.
 #include "forms/qt/MirrorBench.h"
+#include "forms/qt/Settle.h"
 
-#include <QCoreApplication>
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QTreeView>
@@ -13,7 +13,7 @@ class ReportListMirrorTest : public MirrorBench {
  protected:
   ReportListMirrorTest() {
     view.setFixedSize(569, 297);
-    QCoreApplication::processEvents();
+    Settle();
   }
 
   QString Cell(int row, int column) const {
@@ -27,7 +27,7 @@ class ReportListMirrorTest : public MirrorBench {
 
   void AddRows(int count) {
     for (int row = 0; row < count; ++row) report.AddRow({"BUS", "&Mass", "Must be a number"});
-    QCoreApplication::processEvents();
+    Settle();
   }
 
   QTreeView& view = Show<QTreeView>(report);
@@ -74,7 +74,7 @@ TEST_F(ReportListMirrorTest, TheLastColumnMakesRoomForAVerticalScrollBar) {
   EXPECT_EQ(Widths()[1], 160);
   EXPECT_EQ(view.header()->length(), view.viewport()->width());
   report.Clear();
-  QCoreApplication::processEvents();
+  Settle();
   EXPECT_EQ(Widths(), (std::array<int, 3>{100, 160, 303}));
 }
 

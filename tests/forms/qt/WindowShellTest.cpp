@@ -148,7 +148,7 @@ TEST_F(WindowShellTest, AllControlsShowWhatThePlainOnesSay) {
   EXPECT_EQ(Differences(), "");
   test.OpenDefinition("cars\r\n130, bus, bus, plane, BUS, BUS, null, big, 30, 7, 0, 5\r\nend\r\n");
   EXPECT_EQ(Differences(), "");
-  test.OpenColors("col\r\n1,2,3 # 0 black\r\nend\r\ncar\r\nbus, 0,0\r\nend\r\n");
+  test.OpenColors("col\r\n1,2,3\t# 0 black\r\nend\r\ncar\r\nbus, 0,0\r\nend\r\n");
   EXPECT_EQ(Differences(), "");
 }
 

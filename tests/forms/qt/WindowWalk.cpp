@@ -1,6 +1,7 @@
 #include "forms/qt/WindowWalk.h"
 
 #include "core/DiskFiles.h"
+#include "forms/qt/Settle.h"
 #include "language/LanguageFiles.h"
 
 #include <set>
@@ -17,12 +18,6 @@ std::string Sample(const std::string& name) {
 
 std::string LanguageFile(const std::string& language) {
   return std::string(WHEELWRIGHT_SOURCE_DIR) + "/language/" + language + ".lng";
-}
-
-// A change of a caption is laid out in steps, each asked for by the one before.
-void Settle() {
-  constexpr int kSteps = 3;
-  for (int step = 0; step < kSteps; ++step) QCoreApplication::processEvents();
 }
 
 }  // namespace
@@ -90,6 +85,7 @@ void WindowWalk::WalkDefinition(const Visitor& visit) {
 }
 
 void WindowWalk::WalkColors(const Visitor& visit) {
+  test.vars.IsSaved = true;
   test.OpenColors(Sample("carcols.dat"));
   WalkTabs(main.SSTab3, "colour file", visit);
 }

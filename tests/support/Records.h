@@ -1,0 +1,16 @@
+// A table's records as a value that a test can keep and compare.
+#pragma once
+
+#include "core/Table.h"
+
+#include <vector>
+
+namespace wheelwright::testing {
+
+template <class Record>
+std::vector<Record> RecordsOf(const Table<Record>& table) {
+  const RecordWalk<Record> walk = table.Walk();
+  return {walk.begin(), walk.end()};
+}
+
+}  // namespace wheelwright::testing
