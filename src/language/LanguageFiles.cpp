@@ -27,25 +27,26 @@ std::vector<std::string> LanguagesBeside(const Session& session) {
   return languages;
 }
 
-std::string WithLineBreaks(std::string_view line) {
-  std::string text;
+// Writes the line over the entry, whose room is used again: a line may be as long as the file.
+void PutWithLineBreaks(std::string& entry, std::string_view line) {
+  entry.clear();
+  entry.reserve(line.size());
   for (std::size_t i = 0; i < line.size(); ++i) {
     const bool lineBreak = line[i] == '\\' && i + 1 < line.size() && FoldCase(line[i + 1]) == 'n';
     if (lineBreak) {
-      text += kLineEnd;
+      entry += kLineEnd;
       ++i;
     } else {
-      text += line[i];
+      entry += line[i];
     }
   }
-  return text;
 }
 
 void ReadLanguage(Session& session, std::string_view text) {
   std::size_t entry = 0;
   for (const std::string_view line : Lines(text)) {
     if (entry >= session.vars.Lang.size()) throw Failure(FailureNumber::SubscriptOutOfRange);
-    session.vars.Lang[entry] = WithLineBreaks(line);
+    PutWithLineBreaks(session.vars.Lang[entry], line);
     ++entry;
   }
 }

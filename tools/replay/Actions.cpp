@@ -4,6 +4,7 @@
 #include "replay/Keys.h"
 #include "replay/Names.h"
 #include "replay/ScriptError.h"
+#include "replay/Usable.h"
 
 #include <algorithm>
 #include <array>
@@ -12,10 +13,6 @@ namespace wheelwright::replay {
 namespace {
 
 constexpr Part kForce{"force", Form::Boolean, false};
-
-bool CanBeUsedNow(const Control& control) {
-  return control.IsEnabledHere() && control.IsVisibleHere() && control.Owner().IsVisible();
-}
 
 // Every page that the control lies on comes to the front, which is no click on its tab.
 void BringToFront(const Control& control) {

@@ -3,7 +3,6 @@
 
 #include "forms/qt/WindowSet.h"
 #include "replay/Stage.h"
-#include "replay/Toolkit.h"
 #include "replay/WidgetHands.h"
 
 #include <ostream>
@@ -11,10 +10,9 @@
 namespace wheelwright::replay {
 
 struct RealScreen {
-  // The windows are built, none is on screen yet.
+  // The windows are built, none is on screen yet. A Toolkit must be there and outlive them.
   explicit RealScreen(std::ostream& result);
 
-  Toolkit toolkit;
   Stage stage;
   WindowSet windows;
   WidgetHands hands;

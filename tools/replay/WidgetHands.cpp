@@ -122,7 +122,10 @@ void WidgetHands::ClickTab(TabGroup& group, int tab) {
 void WidgetHands::Close(Window& window) { windows_.Of(window).close(); }
 
 void WidgetHands::Shoot(Window& window, const std::string& file) {
-  QCoreApplication::processEvents();
+  // A layout asks for the next one: of the window, of the view in it, of the view with its scroll
+  // bar.
+  constexpr int kSteps = 4;
+  for (int step = 0; step < kSteps; ++step) QCoreApplication::processEvents();
   if (!windows_.Of(window).grab().save(QString::fromStdString(file))) {
     throw std::runtime_error("can't write the picture " + file);
   }

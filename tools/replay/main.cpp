@@ -9,6 +9,7 @@
 
 #ifdef WHEELWRIGHT_REAL_WINDOWS
 #include "replay/RealScreen.h"
+#include "replay/Toolkit.h"
 #endif
 #ifdef _WIN32
 #include <fcntl.h>
@@ -40,6 +41,7 @@ ExitCode PlayOn(Screen& screen, const std::string& appDirectory) {
 
 ExitCode PlayOnRealWindows(const std::string& appDirectory) {
 #ifdef WHEELWRIGHT_REAL_WINDOWS
+  const Toolkit toolkit;
   RealScreen screen(std::cout);
   return PlayOn(screen, appDirectory);
 #else

@@ -61,7 +61,7 @@ void RunFileDialog(FileDialog& dialog, QFileDialog::AcceptMode mode, QString& di
     throw Failure(FailureNumber::CancelSelected);
   }
   TakeChoice(shown, dialog);
-  directory = shown.directory().absolutePath();
+  directory = QFileInfo(shown.selectedFiles().constFirst()).absolutePath();
 }
 
 }  // namespace wheelwright

@@ -4,6 +4,7 @@
 #include "forms/qt/QtText.h"
 
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QSignalBlocker>
 
 namespace wheelwright {
@@ -111,9 +112,12 @@ void ListBoxMirror::Follow(Aspect aspect) {
   if (widget_.SelectedRows() == chosen) return;
   widget_.SelectRows(chosen);
   if (chosen.empty()) return;
+  // The cursor scrolls to its row, which only a new choice shall.
+  QScrollBar& bar = *widget_.verticalScrollBar();
+  const int place = bar.value();
   widget_.selectionModel()->setCurrentIndex(model_.index(list_.Row()),
                                             QItemSelectionModel::NoUpdate);
-  if (aspect == Aspect::Choice) widget_.scrollTo(model_.index(list_.Row()));
+  if (aspect != Aspect::Choice) bar.setValue(place);
 }
 
 std::string ListBoxMirror::ContentDifference() const {

@@ -4,7 +4,6 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QScrollBar>
 
 namespace wheelwright {
 namespace {
@@ -40,17 +39,6 @@ void RowView::SelectRows(const std::vector<int>& rows) {
     first = last + 1;
   }
   selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
-}
-
-void RowView::reset() {
-  if (!scrolledTo_) scrolledTo_ = verticalScrollBar()->value();
-  QListView::reset();
-}
-
-void RowView::doItemsLayout() {
-  QListView::doItemsLayout();
-  if (scrolledTo_) verticalScrollBar()->setValue(*scrolledTo_);
-  scrolledTo_.reset();
 }
 
 void RowView::mousePressEvent(QMouseEvent* event) {

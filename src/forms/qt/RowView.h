@@ -2,7 +2,6 @@
 #pragma once
 
 #include <functional>
-#include <optional>
 #include <vector>
 
 #include <QListView>
@@ -22,10 +21,6 @@ class RowView : public QListView {
   // selection.
   std::function<void(int)> chosenAgain;
 
-  // Other rows keep the place that the list was scrolled to.
-  void reset() override;
-  void doItemsLayout() override;
-
  protected:
   void mousePressEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
@@ -33,8 +28,6 @@ class RowView : public QListView {
  private:
   bool IsOnlySelected(const QModelIndex& row) const;
   void ChooseAgain(const QModelIndex& row);
-
-  std::optional<int> scrolledTo_;
 };
 
 }  // namespace wheelwright

@@ -105,10 +105,18 @@ TEST_F(FileDialogsTest, OnlyTheFlagAsksBeforeAFileIsOverwritten) {
 }
 
 TEST_F(FileDialogsTest, TheNextDialogWithoutAFileStartsWhereTheLastWasChosen) {
-  Make("mine.cfg");
+  FileDialog first;
+  first.filter = dialog.filter;
   {
     const ModalHand hand(Types(File("mine.cfg"), 1));
-    desktop.ShowOpen(dialog);
+    desktop.ShowOpen(first);
+  }
+  const QTemporaryDir elsewhere;
+  FileDialog others;
+  others.file = elsewhere.filePath("other.cfg").toStdString();
+  {
+    const ModalHand hand(Leave);
+    EXPECT_EQ(NumberThrownBy([&] { QtDesktop().ShowOpen(others); }), kCancelled);
   }
   FileDialog next;
   const ModalHand hand([this](QWidget& modal) {

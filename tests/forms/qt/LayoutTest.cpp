@@ -1,5 +1,7 @@
 // In every language nothing is cut off and nothing lies over something else.
 #include "forms/qt/WindowWalk.h"
+#include "screen/DefinitionFields.h"
+#include "screen/HandlingFields.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -102,6 +104,29 @@ TEST_P(LayoutTest, NoTwoControlsLieOverEachOtherAndAllInsideTheirWindow) {
                                                    << showing[j]->objectName().toStdString();
       }
     }
+  });
+}
+
+// Of two fields that show, the one of the lower row stands lower.
+template <class Fields>
+void ExpectRowsInOrder(const Fields& fields, const std::function<QWidget&(const Label&)>& of,
+                       const FrmMain& main) {
+  for (const auto& upper : fields) {
+    for (const auto& lower : fields) {
+      if (upper.label == nullptr || lower.label == nullptr || upper.tab != lower.tab) continue;
+      const QWidget& above = of(main.*upper.label);
+      const QWidget& below = of(main.*lower.label);
+      if (upper.tabRow >= lower.tabRow || !above.isVisible() || !below.isVisible()) continue;
+      EXPECT_LT(above.geometry().bottom(), below.geometry().top()) << upper.name;
+    }
+  }
+}
+
+TEST_P(LayoutTest, TheRowsOfATabStandInTheirOrder) {
+  const auto of = [this](const Label& label) -> QWidget& { return windows.Of(label); };
+  Walk([&](Window&, QWidget&) {
+    ExpectRowsInOrder(kHandlingFields, of, main);
+    ExpectRowsInOrder(kDefinitionFields, of, main);
   });
 }
 

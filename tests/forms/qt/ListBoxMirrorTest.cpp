@@ -127,6 +127,22 @@ TEST_F(ListBoxMirrorTest, ANewTextKeepsChoiceAndPlace) {
   EXPECT_EQ(runs, 0);
 }
 
+TEST_F(ListBoxMirrorTest, AChoiceWhileTheListIsHiddenIsScrolledToAsWell) {
+  list.SetVisible(false);
+  list.Choose(90);
+  list.SetVisible(true);
+  Settle();
+  EXPECT_TRUE(view.viewport()->rect().contains(view.visualRect(view.model()->index(90, 0))));
+}
+
+TEST_F(ListBoxMirrorTest, ARefilledListKeepsThePlace) {
+  view.verticalScrollBar()->setValue(40);
+  list.Clear();
+  list.AddRows(Numbered(90));
+  Settle();
+  EXPECT_EQ(view.verticalScrollBar()->value(), 40);
+}
+
 TEST_F(ListBoxMirrorTest, RowsThatGoAndComeKeepThePlace) {
   view.verticalScrollBar()->setValue(40);
   list.RemoveRow(95);
@@ -134,6 +150,17 @@ TEST_F(ListBoxMirrorTest, RowsThatGoAndComeKeepThePlace) {
   Settle();
   EXPECT_EQ(view.verticalScrollBar()->value(), 40);
   EXPECT_EQ(Row(), -1);
+}
+
+TEST_F(ListBoxMirrorTest, RowsThatGoAndComeKeepThePlaceWhileAnotherIsChosen) {
+  list.Choose(90);
+  Settle();
+  view.verticalScrollBar()->setValue(20);
+  list.RemoveRow(5);
+  list.AddRow("new");
+  Settle();
+  EXPECT_EQ(view.verticalScrollBar()->value(), 20);
+  EXPECT_EQ(Row(), 89);
 }
 
 }  // namespace

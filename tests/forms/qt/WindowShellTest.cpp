@@ -105,7 +105,7 @@ TEST_F(WindowShellTest, TheMainWindowStaysUsableBesideTheOthers) {
   test.desktop.shown.clear();
   test.desktop.choices = {std::nullopt};
   QTest::mouseClick(&open, Qt::LeftButton);
-  EXPECT_EQ(test.desktop.shown.front(), "open");
+  EXPECT_EQ(test.desktop.shown, Shown{"open"});
 }
 
 // The program ends with its main window; another window that is up must not keep the process.
@@ -118,7 +118,7 @@ TEST_F(WindowShellTest, OnlyTheMainWindowCountsForTheEnd) {
 TEST_F(WindowShellTest, TheStandardKeysClickTheirButtons) {
   test.desktop.choices = {std::nullopt};
   Press(QKeySequence::Open);
-  EXPECT_EQ(test.desktop.shown.front(), "open");
+  EXPECT_EQ(test.desktop.shown, Shown{"open"});
   Press(QKeySequence::HelpContents);
   EXPECT_EQ(test.LastShown(), "error: E121");
   PressInstead(QKeySequence::Quit, 4);

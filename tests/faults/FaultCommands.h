@@ -1,0 +1,22 @@
+// Every command that reaches the disk: what stands before it, and the one event that runs it.
+#pragma once
+
+#include "faults/FaultySession.h"
+
+#include <string>
+#include <vector>
+
+namespace wheelwright::testing {
+
+struct FaultCommand {
+  const char* name;
+  void (*arrange)(FaultySession&);
+  void (*run)(FaultySession&);
+};
+
+const std::vector<FaultCommand>& FaultCommands();
+
+// The command of that name.
+const FaultCommand& FaultCommandOf(const std::string& name);
+
+}  // namespace wheelwright::testing

@@ -1,0 +1,254 @@
+#include "faults/FaultRun.h"
+
+#include "support/TableTexts.h"
+
+#include <algorithm>
+#include <memory>
+
+namespace wheelwright::testing {
+namespace {
+
+using Disk = std::map<std::string, std::string>;
+
+std::string Joined(const std::vector<std::string>& texts, const char* separator) {
+  std::string joined;
+  for (const std::string& text : texts) {
+    if (!joined.empty()) joined += separator;
+    joined += text;
+  }
+  return joined.empty() ? "-" : joined;
+}
+
+// Without the folder, whether it names a file or a folder.
+std::string NameOfFile(std::string path) {
+  if (path.ends_with('/')) path.pop_back();
+  return path.substr(path.rfind('/') + 1);
+}
+
+std::string ShortTextOf(const Car& car) { return car.CarName + " " + car.Mass; }
+std::string ShortTextOf(const IdeEntry& entry) { return entry.HandlingID + " " + entry.ModelName; }
+std::string ShortTextOf(const ColorEntry& entry) { return TextOf(entry); }
+std::string ShortTextOf(const CarColorEntry& entry) { return TextOf(entry); }
+
+template <class Record>
+std::string RecordsOf(const Table<Record>& table) {
+  std::vector<std::string> texts;
+  for (int index = 0; index < table.Count(); ++index) {
+    texts.push_back(ShortTextOf(table.At(index)));
+  }
+  return Joined(texts, ", ");
+}
+
+template <class Record>
+void AddTable(std::vector<std::string>& out, const Table<Record>& table,
+              const Table<Record>& snapshot) {
+  if (table.IsAllocated() || snapshot.IsAllocated()) {
+    out.push_back(RecordsOf(table) + " / " + RecordsOf(snapshot));
+  }
+}
+
+std::string TablesOf(const Vars& vars) {
+  std::vector<std::string> tables;
+  AddTable(tables, vars.Cars, vars.Kopie_Cars);
+  AddTable(tables, vars.Ides, vars.Kopie_Ides);
+  AddTable(tables, vars.Colors, vars.Kopie_Colors);
+  AddTable(tables, vars.CarColors, vars.Kopie_CarColors);
+  return Joined(tables, "; ");
+}
+
+std::string EnabledOf(const FrmMain& main) {
+  std::vector<std::string> enabled;
+  for (const Control* command : std::initializer_list<const Control*>{
+           &main.cmdSave, &main.cmdSaveAs, &main.cmdBackup, &main.cmdUndo, &main.FrameAutos}) {
+    if (command->IsEnabled()) enabled.push_back(command->Name());
+  }
+  if (enabled.size() == 5) enabled = {"commands"};
+  for (const Control* tabs :
+       std::initializer_list<const Control*>{&main.SSTab1, &main.SSTab2, &main.SSTab3}) {
+    if (tabs->IsEnabled()) enabled.push_back(tabs->Name());
+  }
+  return Joined(enabled, " ");
+}
+
+// The picture of the tab group that is shown.
+std::string PictureOf(const FrmMain& main) {
+  const Picture& picture = main.SSTab2.IsVisible() ? main.picCar2 : main.picCar;
+  if (picture.File().empty()) return "-";
+  return NameOfFile(picture.File()) + " " + std::to_string(picture.Width());
+}
+
+std::string LanguageOf(const Vars& vars) {
+  const auto entry = [&](std::size_t at) { return vars.Lang[at].empty() ? "-" : vars.Lang[at]; };
+  return entry(0) + " " + entry(1);
+}
+
+struct Played {
+  std::unique_ptr<FaultySession> session = std::make_unique<FaultySession>();
+  Disk before;
+  std::map<std::pair<std::string, std::string>, std::string> settingsBefore;
+};
+
+Played Play(const FaultCommand& command, int call, Fault fault, const std::string& changed = "") {
+  Played played;
+  FaultySession& s = *played.session;
+  command.arrange(s);
+  played.before = s.files.disk.contents;
+  played.settingsBefore = s.settings.values;
+  if (!changed.empty()) s.files.disk.contents[changed] = s.files.changedTexts.at(changed);
+  s.desktop.shown.clear();
+  s.files.FailAt(call, fault);
+  command.run(s);
+  return played;
+}
+
+// Names a text after the write that a command makes of it, the last one first. Empty if it is none.
+std::string NameAmongWrites(const std::string& text, const FaultySession& s,
+                            const std::string& ending) {
+  for (std::size_t i = s.files.calls.size(); i > 0; --i) {
+    const FileCall& call = s.files.calls[i - 1];
+    if (call.operation != Operation::Write) continue;
+    const std::string name = "call " + std::to_string(i) + ending;
+    if (text == call.text) return "as of " + name;
+    if (text == call.text.substr(0, call.text.size() / 2)) return "half of " + name;
+  }
+  return "";
+}
+
+// A text that no write has, as it is but for its line ends.
+std::string Literal(const std::string& text) {
+  std::string literal = "\"";
+  for (const char byte : text) {
+    if (byte == '\r') continue;
+    literal += byte == '\n' ? std::string("\\n") : byte == '\t' ? "\\t" : std::string(1, byte);
+  }
+  return literal + "\"";
+}
+
+std::string NameOfContent(const FaultCommand& command, const std::string& path,
+                          const FaultySession& s) {
+  const Disk& disk = s.files.disk.contents;
+  if (s.files.directories.contains(path)) return "a directory";
+  if (!disk.contains(path)) return "gone";
+  const std::string& text = disk.at(path);
+  if (text.empty()) return "empty";
+  if (s.files.changedTexts.contains(path)) {
+    if (text == s.files.changedTexts.at(path)) return "as changed";
+  }
+  const Played faultless = Play(command, 0, Fault::None);
+  std::string name = NameAmongWrites(text, *faultless.session, "");
+  for (const auto& [changed, itsText] : s.files.changedTexts) {
+    if (!name.empty() || !faultless.before.contains(changed)) continue;
+    name = NameAmongWrites(text, *Play(command, 0, Fault::None, changed).session,
+                           " over the changed file");
+  }
+  return name.empty() ? Literal(text) : name;
+}
+
+std::string DiskOf(const FaultCommand& command, const Played& played) {
+  Disk all = played.before;
+  const Disk& after = played.session->files.disk.contents;
+  all.insert(after.begin(), after.end());
+  std::vector<std::string> differences;
+  for (const auto& [path, text] : all) {
+    const auto then = played.before.find(path);
+    const auto now = after.find(path);
+    const bool same =
+        then != played.before.end() && now != after.end() && then->second == now->second;
+    if (!same) {
+      differences.push_back(NameOfFile(path) + " " + NameOfContent(command, path, *played.session));
+    }
+  }
+  return Joined(differences, "; ");
+}
+
+std::string SettingsOf(const Played& played) {
+  std::vector<std::string> differences;
+  for (const auto& [place, value] : played.session->settings.values) {
+    const auto before = played.settingsBefore.find(place);
+    if (before != played.settingsBefore.end() && before->second == value) continue;
+    differences.push_back(place.second + " " + NameOfFile(value));
+  }
+  return Joined(differences, "; ");
+}
+
+bool IsTouchedBefore(const std::vector<FileCall>& calls, std::size_t index) {
+  const auto end = calls.begin() + static_cast<std::ptrdiff_t>(index);
+  return std::any_of(calls.begin(), end,
+                     [&](const FileCall& call) { return call.path == calls[index].path; });
+}
+
+}  // namespace
+
+const char* NameOf(Fault fault) {
+  switch (fault) {
+    case Fault::None:
+      return "none";
+    case Fault::Missing:
+      return "missing";
+    case Fault::Vanished:
+      return "vanished";
+    case Fault::NoFolder:
+      return "no folder";
+    case Fault::Directory:
+      return "directory";
+    case Fault::Changed:
+      return "changed";
+    case Fault::NoAccess:
+      return "no access";
+    case Fault::Full:
+      return "disk full";
+    case Fault::CutShort:
+      return "cut short";
+    case Fault::IoError:
+      return "device";
+    case Fault::CloseError:
+      return "close";
+  }
+  return "";
+}
+
+std::string LabelOf(const FileCall& call) {
+  static const std::map<Operation, const char*> names = {
+      {Operation::Exists, "look for"}, {Operation::Clear, "clear marks of"},
+      {Operation::Read, "read"},       {Operation::Write, "write"},
+      {Operation::List, "list"},       {Operation::Picture, "picture"}};
+  return std::string(names.at(call.operation)) + " " + NameOfFile(call.path);
+}
+
+std::vector<FileCall> CallsOf(const FaultCommand& command) {
+  return Play(command, 0, Fault::None).session->files.calls;
+}
+
+std::vector<Fault> FaultsOf(const std::vector<FileCall>& calls, std::size_t index) {
+  const Fault gone = IsTouchedBefore(calls, index) ? Fault::Vanished : Fault::Missing;
+  switch (calls[index].operation) {
+    case Operation::Exists:
+    case Operation::Clear:
+      return {gone, Fault::Directory, Fault::NoAccess, Fault::Changed};
+    case Operation::Read:
+    case Operation::Picture:
+      return {gone, Fault::Directory, Fault::NoAccess, Fault::IoError, Fault::Changed};
+    case Operation::Write:
+      return {gone,          Fault::NoFolder, Fault::Directory, Fault::NoAccess,
+              Fault::Full,   Fault::CutShort, Fault::IoError,   Fault::CloseError,
+              Fault::Changed};
+    case Operation::List:
+      return {gone, Fault::NoAccess, Fault::IoError};
+  }
+  return {};
+}
+
+std::string OutcomeOf(const FaultCommand& command, int call, Fault fault) {
+  const Played played = Play(command, call, fault);
+  const FaultySession& s = *played.session;
+  std::vector<std::string> shown = s.desktop.shown;
+  for (std::string& text : shown) std::replace(text.begin(), text.end(), '\r', ' ');
+  for (std::string& text : shown) std::erase(text, '\n');
+  return Joined({Joined(shown, ", "), TablesOf(s.vars), s.vars.IsSaved ? "saved" : "pending",
+                 s.vars.CurrentFile.empty() ? "-" : NameOfFile(s.vars.CurrentFile),
+                 EnabledOf(s.main), Joined(s.main.cmbAutos.Rows(), " "), PictureOf(s.main),
+                 LanguageOf(s.vars), SettingsOf(played), DiskOf(command, played)},
+                " | ");
+}
+
+}  // namespace wheelwright::testing
