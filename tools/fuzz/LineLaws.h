@@ -1,0 +1,16 @@
+// What holds for taking the lines of the three formats apart.
+#pragma once
+
+#include <string>
+
+namespace wheelwright::fuzz {
+
+// Each byte of `calls` is one call on the same line: "n" counts its fields, any other byte takes
+// the field of a number.
+void RequireCommaLaws(const std::string& line, const std::string& calls);
+void RequireSpaceLaws(const std::string& line, const std::string& calls);
+
+// All 33 tokens of a handling line, their checks and defaults.
+void RequireHandlingLaws(const std::string& line);
+
+}  // namespace wheelwright::fuzz

@@ -1,0 +1,45 @@
+#include "fuzz/NameLaws.h"
+
+#include "core/TextIndex.h"
+#include "fuzz/FuzzInput.h"
+#include "fuzz/Law.h"
+#include "gamefiles/NameIndex.h"
+#include "support/PlainWalk.h"
+
+#include <algorithm>
+
+namespace wheelwright::fuzz {
+namespace {
+
+int FirstPlainly(const std::vector<std::string>& names, const std::string& name, int from) {
+  const auto found = std::find(names.begin() + from, names.end(), name);
+  return found == names.end() ? TextIndex::kNone : static_cast<int>(found - names.begin());
+}
+
+void RequirePositions(const std::vector<std::string>& names, const TextIndex& index) {
+  for (int position = 0; position < index.Count(); ++position) {
+    const std::string& name = names[static_cast<std::size_t>(position)];
+    Require(index.First(name) == FirstPlainly(names, name, 0), "the first of equal texts is found");
+    Require(index.Next(position) == FirstPlainly(names, name, position + 1),
+            "equal texts are found one behind the other");
+  }
+}
+
+}  // namespace
+
+void RequireNameLaws(const std::vector<std::string>& names, const std::string& lines) {
+  TextIndex texts;
+  for (const std::string& name : names) texts.Add(name);
+  RequirePositions(names, texts);
+  NameIndex index(names);
+  for (const std::string& line : PartsOf(lines, '\n')) {
+    Require(index.Beginning(line) == testing::WalkForBeginnings(names, line),
+            "index and plain walk find the same beginnings");
+    Require(index.Anywhere(line) == testing::WalkForNamesAnywhere(names, line),
+            "index and plain walk find the same names");
+    Require(index.PositionOf(line) == FirstPlainly(names, line, 0),
+            "index and plain walk find the same position");
+  }
+}
+
+}  // namespace wheelwright::fuzz

@@ -1,0 +1,71 @@
+// A step with what was before and after it, for the laws to look at.
+#pragma once
+
+#include "screen/Session.h"
+#include "soak/Folder.h"
+#include "soak/Held.h"
+#include "soak/Step.h"
+#include "soak/StepResult.h"
+#include "support/HandlingReference.h"
+
+#include <cstddef>
+#include <stdexcept>
+#include <string>
+
+namespace wheelwright::soak {
+
+class LawBroken : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+// Throws LawBroken with the law unless it holds.
+inline void Must(bool holds, const std::string& law) {
+  if (!holds) throw LawBroken(law);
+}
+
+inline constexpr std::size_t kFlagDigits = 7;
+
+// Of which tables the screen shows a record, so that boxes and fields must agree.
+struct Shown {
+  bool handling = false;
+  bool flags = false;  // of a vehicle with as many digits as the boxes have
+  bool definition = false;
+  bool palette = false;
+};
+
+struct Moment {
+  const Step& step;
+  const StepResult& result;
+  const Held& before;
+  const Held& after;
+  const Session& session;
+  const Folder& folder;
+};
+
+// After a click on cmdOpen that was not declined. `handling` is what the plain reader makes of the
+// chosen file, null if it is no handling file that is there.
+void CheckOpen(const Moment& moment, const testing::PlainHandling* handling);
+// The chosen file as its reader finds it, with its line ends put right.
+std::string TextForReader(const Files& disk, const std::string& name);
+
+void CheckSave(const Moment& moment);
+void CheckBackup(const Moment& moment);
+
+// A choice in cmbAutos, or whatever else displays a vehicle: the working tables must be those given
+// but for what a display itself changes.
+void CheckDisplay(const Moment& moment, Tables expected);
+
+// What a display itself does to the record that it shows.
+void Display(Car& car);
+
+void CheckRevert(const Moment& moment);
+void CheckAddedVehicle(const Moment& moment);
+void CheckDeletedVehicle(const Moment& moment);
+
+void CheckImport(const Moment& moment);
+void CheckExport(const Moment& moment);
+
+void CheckBoxesAndFields(const Session& session, const Shown& shown);
+
+}  // namespace wheelwright::soak

@@ -1,0 +1,20 @@
+// Random sessions, one after the other.
+#pragma once
+
+#include "soak/Options.h"
+#include "soak/PlainSession.h"
+
+#include <functional>
+#include <ostream>
+#include <string>
+
+namespace wheelwright::soak {
+
+// Plays a recording once more and tells what came out otherwise; empty if nothing did.
+using SecondPlay = std::function<std::string(const Recording&, const Folder&)>;
+
+// Plays until the time is over or too much was wrong, and says how many sessions there were. True
+// if nothing was wrong. `again` may be empty.
+bool Soak(const Options& options, const SecondPlay& again, std::ostream& report);
+
+}  // namespace wheelwright::soak
