@@ -177,7 +177,7 @@ std::set<int> TabEntries() {
   return entries;
 }
 
-class LanguageFile : public testing::TestWithParam<std::string> {
+class LanguageFile : public ::testing::TestWithParam<std::string> {
  protected:
   LanguageFile() : bytes_(DiskFiles().Read(kFolder + GetParam())), texts_(LinesOf(bytes_)) {}
 
@@ -264,7 +264,7 @@ TEST_P(LanguageFile, HasNoAmpersandInMessagesHintsListsAndFrames) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(All, LanguageFile, testing::ValuesIn(LanguageFiles()));
+INSTANTIATE_TEST_SUITE_P(All, LanguageFile, ::testing::ValuesIn(LanguageFiles()));
 
 TEST(LanguageFiles, GermanAndEnglishAreThere) {
   EXPECT_TRUE(DiskFiles().Exists(kFolder + "Deutsch.lng"));
