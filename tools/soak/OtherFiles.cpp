@@ -37,10 +37,7 @@ std::string RandomLanguage(Dice& dice, bool isWhole) {
   if (!isWhole && dice.OneIn(2)) count = dice.OneIn(10) ? kEntries + 1 : dice.Below(kEntries);
   for (int entry = 0; entry < count; ++entry) {
     const bool isOdd = !isWhole && dice.OneIn(20);
-    lines.push_back(isOdd ? dice.OneOf({"", "&File", "a\\nb", "R&&D",
-                                        "\xD6"
-                                        "ffnen",
-                                        "\x81\x01", "<b>"})
+    lines.push_back(isOdd ? dice.OneOf({"", "&File", "a\\nb", "R&&D", "\xD6z", "\x81\x01", "<b>"})
                           : EntryText(entry));
   }
   std::string text;
