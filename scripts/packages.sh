@@ -4,7 +4,7 @@
 declare -A PACKAGES=(
   [build]="g++ cmake ninja-build qt6-base-dev nlohmann-json3-dev fonts-dejavu-core"
   [test]="libgtest-dev librapidcheck-dev clang-format clang-tidy python3 ccache"
-  [bench]="libbenchmark-dev"
+  [bench]="libbenchmark-dev mawk xvfb"
   [fuzz]="clang libclang-rt-dev"
   [coverage]="gcovr"
   [pictures]="librsvg2-bin imagemagick"

@@ -1,18 +1,10 @@
-// The program: one session, its real windows, and the event loop.
-#include "core/DiskFiles.h"
-#include "forms/Lifecycle.h"
-#include "forms/Wiring.h"
-#include "forms/qt/QtDesktop.h"
-#include "forms/qt/QtEdge.h"
-#include "forms/qt/QtSettings.h"
-#include "forms/qt/WindowSet.h"
-#include "screen/Session.h"
+// The program: the application of the toolkit, and what runs in it.
+#include "forms/qt/Program.h"
 
 #include <clocale>
 #include <cstdio>
 
 #include <QApplication>
-#include <QDir>
 
 namespace {
 
@@ -24,25 +16,6 @@ bool LacksDisplay() {
 #else
   return false;
 #endif
-}
-
-std::string ProgramDirectory() {
-  return QDir::toNativeSeparators(QCoreApplication::applicationDirPath()).toStdString();
-}
-
-int RunProgram() {
-  wheelwright::DiskFiles files;
-  wheelwright::QtDesktop desktop;
-  wheelwright::QtSettings settings;
-  wheelwright::QtEdge edge;
-  wheelwright::Session session(desktop, settings, files);
-  wheelwright::WindowSet windows(session, edge);
-  wheelwright::WireEvents(session);
-  edge.Enter([&] { wheelwright::StartUp(session, ProgramDirectory()); });
-  if (edge.HasFailed()) return 1;
-  if (desktop.Ended()) return 0;
-  session.main.SetVisible(true);
-  return QApplication::exec();
 }
 
 }  // namespace
@@ -57,5 +30,5 @@ int main(int argumentCount, char** arguments) {
   QApplication::setApplicationName("Wheelwright");
   // The toolkit sets the user's locale, whose numbers may have a decimal comma.
   std::setlocale(LC_NUMERIC, "C");
-  return RunProgram();
+  return wheelwright::RunProgram();
 }

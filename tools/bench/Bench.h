@@ -1,0 +1,74 @@
+// A session with one of the data files, through the hands of a person, to be timed.
+#pragma once
+
+#include "bench/DataFiles.h"
+#include "core/DiskFiles.h"
+#include "forms/Lifecycle.h"
+
+#include <filesystem>
+#include <ostream>
+#include <string>
+#include <utility>
+
+namespace wheelwright::bench {
+
+// The folder of the language files, and where the data files may lie.
+struct Folders {
+  std::string program;
+  std::string data;
+};
+
+// `Screen` is one of the two screens of the replay: with real windows or without.
+template <class Screen>
+class Bench {
+ public:
+  Bench(const DataFile& data, int vehicles, const Folders& folders)
+      : data_(data), path_(folders.data + "/" + data.name) {
+    DiskFiles().Write(path_, data.text(vehicles));
+    StartUp(screen_.stage.session, folders.program);
+    Main().SetVisible(true);
+  }
+
+  void Open() {
+    screen_.stage.desktop.answers.Add({{"file", path_}, {"filter", data_.filterIndex}});
+    screen_.hands.Click(Main().cmdOpen);
+  }
+
+  void Save() { screen_.hands.Click(Main().cmdSave); }
+
+  // A vehicle far from the one before it.
+  void Select() {
+    constexpr int kStride = 211;
+    row_ = (row_ + kStride) % Main().cmbAutos.Count();
+    screen_.hands.Choose(Main().cmbAutos, row_);
+  }
+
+  // A letter at the end of a name, or the deletion of the last one.
+  void Keystroke() {
+    TextBox& box = NameBox();
+    if (std::exchange(longer_, !longer_)) {
+      screen_.hands.EraseLast(box);
+    } else {
+      screen_.hands.Append(box, "x");
+    }
+  }
+
+ private:
+  FrmMain& Main() { return screen_.stage.session.main; }
+
+  // The box in which a keystroke costs most: it renames the entry of the list.
+  TextBox& NameBox() {
+    if (&data_ == &kHandlingData) return Main().txtAutoname;
+    if (&data_ == &kDefinitionData) return Main().txtHandlingID;
+    return Main().txtColorName;
+  }
+
+  const DataFile& data_;
+  std::string path_;
+  std::ostream nowhere_{nullptr};
+  Screen screen_{nowhere_};
+  int row_ = 0;
+  bool longer_ = false;
+};
+
+}  // namespace wheelwright::bench
