@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/Failure.h"
+#include "core/KeyIndex.h"
 #include "core/Numbers.h"
 
 #include <cstddef>
@@ -57,10 +58,15 @@ class RecordWalk {
 template <class Record>
 class Table {
  public:
+  static constexpr int kNone = KeyIndex<Record>::kNone;
+
   bool IsAllocated() const { return !slots_.empty(); }
 
   // One empty record, bounds 0 to 0.
-  void Reset() { slots_.assign(1, std::make_shared<Record>()); }
+  void Reset() {
+    slots_.assign(1, std::make_shared<Record>());
+    index_.Forget();
+  }
 
   // Makes the table reach up to the index, with its contents kept; never shortens it.
   void ExtendTo(int upper) {
@@ -80,6 +86,7 @@ class Table {
   // of it before may belong to another table's copy from then on.
   Record& At(int index) {
     CheckIndex(index);
+    index_.MayChange(index);
     std::shared_ptr<Record>& slot = slots_[static_cast<std::size_t>(index)];
     if (slot.use_count() > 1) slot = std::make_shared<Record>(*slot);
     return *slot;
@@ -90,6 +97,15 @@ class Table {
     CheckIndex(index);
     return *slots_[static_cast<std::size_t>(index)];
   }
+
+  // The index of the first record whose key equals the text byte for byte, kNone if none does;
+  // failure 9 while the table is unallocated. Takes no walk over the table but the first time.
+  int First(std::string Record::*key, const std::string& text) const {
+    return index_.First(Walk(), key, text);
+  }
+
+  // The index of the next record with that key, good until the next search.
+  int Next(int index) const { return index_.Next(index); }
 
   // All records in order; failure 9 while the table is unallocated.
   RecordWalk<Record> Walk() const {
@@ -103,18 +119,7 @@ class Table {
   }
 
   std::vector<std::shared_ptr<Record>> slots_;
+  mutable KeyIndex<Record> index_;
 };
-
-// The index of the first record whose key equals the text byte for byte; -1 if none does. Failure 9
-// while the table is unallocated.
-template <class Record, class Text>
-int FindFirst(const Table<Record>& table, std::string Record::*key, const Text& text) {
-  int index = 0;
-  for (const Record& record : table.Walk()) {
-    if (record.*key == text) return index;
-    ++index;
-  }
-  return -1;
-}
 
 }  // namespace wheelwright

@@ -1,5 +1,7 @@
 #include "editor/ColorPairs.h"
 
+#include "core/Numbers.h"
+
 #include <string>
 #include <unordered_map>
 
@@ -39,13 +41,11 @@ void ShowColorPairs(Session& session) {
   const std::string key = session.main.cmbAutos.Text();
   NamesByIndex names;
   for (const ColorEntry& color : session.vars.Colors.Walk()) names[color.Index] = &color.ColorName;
-  std::int16_t index = 0;
-  for (const CarColorEntry& entry : session.vars.CarColors.Walk()) {
-    if (entry.ModelName == key) {
-      ListPairsOf(session, names, session.vars.CarColors.At(index));
-      session.vars.CurrentCarColor = index;
-    }
-    ++index;
+  Table<CarColorEntry>& carColors = session.vars.CarColors;
+  for (int i = carColors.First(&CarColorEntry::ModelName, key); i != carColors.kNone;
+       i = carColors.Next(i)) {
+    ListPairsOf(session, names, carColors.At(i));
+    session.vars.CurrentCarColor = Checked16(i);
   }
 }
 

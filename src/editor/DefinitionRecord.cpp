@@ -26,7 +26,7 @@ void ShowDefinitionRecord(Session& session) {
   FrmMain& main = session.main;
   const std::string key = main.cmbAutos.Text();
   ShowVehiclePicture(session, key, main.picCar2);
-  vars.CurrentIde = Checked16(std::max(0, FindFirst(vars.Ides, &IdeEntry::HandlingID, key)));
+  vars.CurrentIde = Checked16(std::max(0, vars.Ides.First(&IdeEntry::HandlingID, key)));
   for (const DefinitionField* field : DefinitionFieldsByDisplay()) {
     const std::string text = vars.Ides.At(vars.CurrentIde).*field->value;
     if (field->text != nullptr) (main.*field->text).SetText(text);

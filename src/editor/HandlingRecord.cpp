@@ -82,7 +82,7 @@ void ShowHandlingRecord(Session& session) {
   Vars& vars = session.vars;
   const std::string key = session.main.cmbAutos.Text();
   ShowVehiclePicture(session, key, session.main.picCar);
-  vars.CurrentCar = Checked16(std::max(0, FindFirst(vars.Cars, &Car::CarName, key)));
+  vars.CurrentCar = Checked16(std::max(0, vars.Cars.First(&Car::CarName, key)));
   for (const HandlingField* field : HandlingFieldsByDisplay()) {
     ShowField(session, *field);
     if (field->displayOrder == kLastFieldBeforeCaptions) {

@@ -1,7 +1,6 @@
 #include "exchange/ExportFile.h"
 
 #include "core/Text.h"
-#include "core/TextIndex.h"
 #include "exchange/ExportWindow.h"
 #include "gamefiles/Banner.h"
 #include "gamefiles/FileKinds.h"
@@ -43,14 +42,11 @@ std::string ExportHeader(const FrmMain& main) {
 // none.
 template <class Visit>
 void ForEachChosenVehicle(const Session& session, const Visit& visit) {
-  const RecordWalk<Car> cars = session.vars.Cars.Walk();
-  TextIndex recordsOfName;
-  recordsOfName.Reserve(cars.size());
-  for (const Car& car : cars) recordsOfName.Add(car.CarName);
+  const Table<Car>& cars = session.vars.Cars;
   int row = 0;
   for (const std::string& name : session.exporter.lst2.Rows()) {
-    for (int i = recordsOfName.First(name); i != TextIndex::kNone; i = recordsOfName.Next(i)) {
-      visit(row, cars[static_cast<std::size_t>(i)]);
+    for (int i = cars.First(&Car::CarName, name); i != cars.kNone; i = cars.Next(i)) {
+      visit(row, cars.At(i));
     }
     ++row;
   }

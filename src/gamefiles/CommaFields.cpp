@@ -40,6 +40,7 @@ std::int16_t CountCommaFields(std::string& line) {
 CommaLine::CommaLine(std::string_view line) : cleaned_(line) {
   RemoveBlanksAndTabs(cleaned_);
   length_ = cleaned_.size();
+  commas_.reserve(static_cast<std::size_t>(std::count(cleaned_.begin(), cleaned_.end(), ',')));
   for (std::size_t at = cleaned_.find(','); at != std::string::npos;
        at = cleaned_.find(',', at + 1)) {
     commas_.push_back(at);

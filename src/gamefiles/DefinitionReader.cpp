@@ -17,13 +17,12 @@ constexpr int kMandatoryFields = 11;
 
 // The first count sees a comma at the end of the line as a field; taking the fields strips such
 // commas, so that the later counts may see fewer.
-void TakeFields(std::string& line, IdeEntry& entry) {
+void TakeFields(CommaLine& line, IdeEntry& entry) {
   for (int position = 0; position < kMandatoryFields; ++position) {
-    entry.*kDefinitionFields[static_cast<std::size_t>(position)].value =
-        GetCommaField(line, position);
+    entry.*kDefinitionFields[static_cast<std::size_t>(position)].value = line.Field(position);
   }
-  if (CountCommaFields(line) >= 12) entry.Extra1 = GetCommaField(line, 11);
-  if (CountCommaFields(line) >= 13) entry.Extra2 = GetCommaField(line, 12);
+  if (line.Count() >= 12) entry.Extra1 = line.Field(11);
+  if (line.Count() >= 13) entry.Extra2 = line.Field(12);
 }
 
 }  // namespace
@@ -38,13 +37,14 @@ std::optional<int> LoadDefinitionFile(Session& session) {
   bool inSection = false;
   for (const std::string_view rawLine : Lines(text)) {
     lineNumber.Step();
-    std::string line(BeforeMark(rawLine, '#'));
+    const std::string_view line = BeforeMark(rawLine, '#');
     if (line.starts_with("end")) inSection = false;
     if (inSection && !line.empty()) {
-      if (CountCommaFields(line) < kMandatoryFields) return lineNumber.Value();
-      keys.push_back(GetCommaField(line, 4));
+      CommaLine fields(line);
+      if (fields.Count() < kMandatoryFields) return lineNumber.Value();
+      keys.emplace_back(fields.Field(4));
       ides.ExtendTo(records.Value());
-      TakeFields(line, ides.At(records.Value()));
+      TakeFields(fields, ides.At(records.Value()));
       records.Step();
     }
     if (line.starts_with("cars")) inSection = true;

@@ -63,10 +63,7 @@ LineKind KindOf(std::string_view line) {
 class RecordPass {
  public:
   explicit RecordPass(Session& session)
-      : session_(session),
-        cars_(session.vars.Kopie_Cars),
-        names_(session.main.cmbAutos.Rows()),
-        firstRecord_(session.main.cmbAutos.Rows().size(), TextIndex::kNone) {
+      : session_(session), cars_(session.vars.Kopie_Cars), names_(session.main.cmbAutos.Rows()) {
     cars_.Reset();
   }
 
@@ -86,33 +83,20 @@ class RecordPass {
     Car& car = cars_.At(count_.Value());
     car.LineKind = kOrdinaryVehicle;
     tokens.Fill(session_, car);
-    RememberFirst(car.CarName);
     count_.Step();
-  }
-
-  void RememberFirst(const std::string& name) {
-    const int position = names_.PositionOf(name);
-    if (position == TextIndex::kNone) return;
-    int& first = firstRecord_[static_cast<std::size_t>(position)];
-    if (first == TextIndex::kNone) first = count_.Value();
   }
 
   // "%" marks the first record of that name, and one past the table's end if there is none; the
   // other two kinds mark the record whose index is the name's position in the list.
   void MarkRecord(int position, LineKind kind) {
-    if (kind != kPercentLine) {
-      cars_.At(position).LineKind = kind;
-      return;
-    }
     const std::string& name = session_.main.cmbAutos.Rows()[static_cast<std::size_t>(position)];
-    const int first = firstRecord_[static_cast<std::size_t>(names_.PositionOf(name))];
-    cars_.At(first).LineKind = kind;
+    const int marked = kind == kPercentLine ? cars_.First(&Car::CarName, name) : position;
+    cars_.At(marked).LineKind = kind;
   }
 
   Session& session_;
   Table<Car>& cars_;
   NameIndex names_;
-  std::vector<int> firstRecord_;  // by the first position of a name
   Counter16 count_;
 };
 

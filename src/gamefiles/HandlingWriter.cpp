@@ -1,7 +1,6 @@
 #include "gamefiles/HandlingWriter.h"
 
 #include "core/Text.h"
-#include "core/TextIndex.h"
 #include "gamefiles/Banner.h"
 #include "gamefiles/HandlingHead.h"
 #include "gamefiles/Lines.h"
@@ -9,14 +8,14 @@
 
 #include <string_view>
 #include <utility>
-#include <vector>
 
 namespace wheelwright {
 namespace {
 
 class HandlingWriter {
  public:
-  explicit HandlingWriter(const Session& session) : session_(session) {
+  HandlingWriter(const Session& session, std::size_t expectedLength) : session_(session) {
+    out_.reserve(expectedLength);
     AddLine(BannerLine(';'));
     AddLine(HomePageLine(';'));
   }
@@ -50,13 +49,10 @@ class HandlingWriter {
     if (vehiclesWritten_) return;
     vehiclesWritten_ = true;
     if (session_.main.cmbAutos.Count() == 0) return;
-    const RecordWalk<Car> cars = session_.vars.Cars.Walk();
-    TextIndex recordsOfName;
-    recordsOfName.Reserve(cars.size());
-    for (const Car& car : cars) recordsOfName.Add(car.CarName);
+    const Table<Car>& cars = session_.vars.Cars;
     for (const std::string& name : session_.main.cmbAutos.Rows()) {
-      for (int i = recordsOfName.First(name); i != TextIndex::kNone; i = recordsOfName.Next(i)) {
-        AppendVehicleLine(out_, cars[static_cast<std::size_t>(i)]);
+      for (int i = cars.First(&Car::CarName, name); i != cars.kNone; i = cars.Next(i)) {
+        AppendVehicleLine(out_, cars.At(i));
         out_ += kLineEnd;
       }
     }
@@ -84,7 +80,7 @@ class HandlingWriter {
 
 std::string RewriteHandlingText(Session& session) {
   const std::string onDisk = session.files.Read(session.vars.CurrentFile);
-  HandlingWriter writer(session);
+  HandlingWriter writer(session, onDisk.size() + onDisk.size() / 8);
   for (const std::string_view line : Lines(onDisk)) writer.Take(line);
   return std::move(writer).Text();
 }

@@ -31,9 +31,6 @@ class NameIndex {
   // The names that the line holds anywhere, ignoring case.
   const std::vector<NameHit>& Anywhere(std::string_view line);
 
-  // The first position of a name equal byte for byte, TextIndex::kNone if there is none.
-  int PositionOf(std::string_view name) const { return exact_.First(name); }
-
  private:
   void FoldNames();
   void AddFolded(std::string_view part);

@@ -83,7 +83,9 @@ void RowList::RemoveRow(int row) {
 
 void RowList::ReplaceRow(int row, std::string text) {
   CheckRow(row);
-  rows_[static_cast<std::size_t>(row)] = std::move(text);
+  std::string& shown = rows_[static_cast<std::size_t>(row)];
+  if (shown == text) return;
+  shown = std::move(text);
   Tell(Aspect::Content);
 }
 

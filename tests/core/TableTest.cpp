@@ -32,7 +32,7 @@ TEST(TableTest, NothingOfAnUnallocatedTableMayBeUsed) {
   EXPECT_EQ(NumberThrownBy([&] { readOnly.At(0); }), kSubscript);
   EXPECT_EQ(NumberThrownBy([&] { table.Walk(); }), kSubscript);
   EXPECT_EQ(NumberThrownBy([&] { readOnly.Walk(); }), kSubscript);
-  EXPECT_EQ(NumberThrownBy([&] { FindFirst(table, &Car::CarName, "BUS"); }), kSubscript);
+  EXPECT_EQ(NumberThrownBy([&] { table.First(&Car::CarName, "BUS"); }), kSubscript);
 }
 
 TEST(TableTest, AResetLeavesOneEmptyRecord) {
@@ -122,10 +122,10 @@ TEST(TableTest, ACopyOfAnUnallocatedTableIsUnallocated) {
 
 TEST(TableTest, TheFirstRecordWithAKeyIsFoundByteForByte) {
   const Table<Car> table = TableOf({"Bus", "BUS", "VAN", "BUS"});
-  EXPECT_EQ(FindFirst(table, &Car::CarName, "BUS"), 1);
-  EXPECT_EQ(FindFirst(table, &Car::CarName, "Bus"), 0);
-  EXPECT_EQ(FindFirst(table, &Car::CarName, "bus"), -1);
-  EXPECT_EQ(FindFirst(table, &Car::CarName, "BU"), -1);
+  EXPECT_EQ(table.First(&Car::CarName, "BUS"), 1);
+  EXPECT_EQ(table.First(&Car::CarName, "Bus"), 0);
+  EXPECT_EQ(table.First(&Car::CarName, "bus"), -1);
+  EXPECT_EQ(table.First(&Car::CarName, "BU"), -1);
 }
 
 TEST(TableTest, AVehicleWithoutSpecialLineHasTheKindZero) {

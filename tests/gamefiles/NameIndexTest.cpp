@@ -84,14 +84,6 @@ TEST(NameIndexTest, OneIndexServesManyLines) {
   }
 }
 
-TEST(NameIndexTest, ThePositionOfANameIsItsFirst) {
-  const Names names = {"VAN", "BUS", "BUS"};
-  const NameIndex index(names);
-  EXPECT_EQ(index.PositionOf("BUS"), 1);
-  EXPECT_EQ(index.PositionOf("bus"), TextIndex::kNone);
-  EXPECT_EQ(index.PositionOf("BU"), TextIndex::kNone);
-}
-
 // Few letters, so that names are often equal, the beginning of each other, or inside a line.
 rc::Gen<std::string> FewLetters() {
   return rc::gen::container<std::string>(

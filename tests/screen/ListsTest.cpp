@@ -37,6 +37,16 @@ TEST_F(ListsTest, AListStartsEmptyWithNothingChosen) {
   EXPECT_EQ(list.Text(), "");
 }
 
+TEST_F(ListsTest, ARowThatGetsTheTextItHasIsNoNews) {
+  list.AddRow("BUS");
+  int told = 0;
+  list.notice = [&told](Aspect) { ++told; };
+  list.ReplaceRow(0, "BUS");
+  EXPECT_EQ(told, 0);
+  list.ReplaceRow(0, "VAN");
+  EXPECT_EQ(told, 1);
+}
+
 TEST_F(ListsTest, AListKeepsTheOrderOfArrival) {
   list.AddRow("VAN");
   list.AddRows({"BUS", "van"});
