@@ -3,6 +3,8 @@
 
 #include "core/Records.h"
 
+#include <array>
+#include <optional>
 #include <string>
 
 namespace wheelwright {
@@ -13,5 +15,8 @@ inline std::string PaletteLabel(const ColorEntry& color) {
   return color.ColorName + " - " + std::to_string(color.Red) + "," + std::to_string(color.Green) +
          "," + std::to_string(color.Blue);
 }
+
+// Red, green and blue as a label tells them, cut to 0 to 255; nothing for a text that isn't one.
+std::optional<std::array<int, 3>> ColorInLabel(const std::string& label);
 
 }  // namespace wheelwright

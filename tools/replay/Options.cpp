@@ -7,6 +7,8 @@ std::optional<Options> OptionsFrom(const std::vector<std::string>& arguments) {
   for (std::size_t i = 0; i < arguments.size(); ++i) {
     if (arguments[i] == "--plain") {
       options.plain = true;
+    } else if (arguments[i] == "--dark") {
+      options.dark = true;
     } else if (arguments[i] == "--app" && i + 1 < arguments.size()) {
       options.appDirectory = arguments[++i];
     } else {

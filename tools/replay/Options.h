@@ -9,11 +9,12 @@ namespace wheelwright::replay {
 
 struct Options {
   bool plain = false;
+  bool dark = false;         // the real windows in the colours of a dark desktop
   std::string appDirectory;  // UTF-8
 };
 
 inline constexpr const char* kUsage =
-    "usage: wheelwright-replay [--plain] --app DIR < script > result\n";
+    "usage: wheelwright-replay [--plain | --dark] --app DIR < script > result\n";
 
 // Nothing for a command line that can't be understood.
 std::optional<Options> OptionsFrom(const std::vector<std::string>& arguments);

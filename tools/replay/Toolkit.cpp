@@ -1,5 +1,7 @@
 #include "replay/Toolkit.h"
 
+#include "replay/DarkPalette.h"
+
 #include <clocale>
 
 namespace wheelwright::replay {
@@ -16,9 +18,10 @@ void UseOffscreenWithoutDisplay() {
 
 }  // namespace
 
-Toolkit::Toolkit() {
+Toolkit::Toolkit(bool dark) {
   UseOffscreenWithoutDisplay();
   application_ = std::make_unique<QApplication>(argumentCount_, arguments_.data());
+  if (dark) QApplication::setPalette(DarkPalette());
   // The toolkit sets the user's locale, whose numbers may have a decimal comma.
   std::setlocale(LC_NUMERIC, "C");
 }

@@ -10,8 +10,9 @@ namespace wheelwright::replay {
 
 class Toolkit {
  public:
-  // Without a display the windows stand on the toolkit's offscreen platform.
-  Toolkit();
+  // Without a display the windows stand on the toolkit's offscreen platform. `dark` gives
+  // them the colours of a dark desktop instead of the system's.
+  explicit Toolkit(bool dark = false);
   Toolkit(const Toolkit&) = delete;
   Toolkit& operator=(const Toolkit&) = delete;
 

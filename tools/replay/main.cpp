@@ -39,13 +39,13 @@ ExitCode PlayOn(Screen& screen, const std::string& appDirectory) {
   return player.Play(std::cin, std::cerr);
 }
 
-ExitCode PlayOnRealWindows(const std::string& appDirectory) {
+ExitCode PlayOnRealWindows(const Options& options) {
 #ifdef WHEELWRIGHT_REAL_WINDOWS
-  const Toolkit toolkit;
+  const Toolkit toolkit(options.dark);
   RealScreen screen(std::cout);
-  return PlayOn(screen, appDirectory);
+  return PlayOn(screen, options.appDirectory);
 #else
-  static_cast<void>(appDirectory);
+  static_cast<void>(options);
   std::cerr << "this replay was built without real windows and plays with --plain alone\n";
   return ExitCode::NotUnderstood;
 #endif
@@ -57,7 +57,7 @@ ExitCode Replay(const std::vector<std::string>& arguments) {
     std::cerr << kUsage;
     return ExitCode::NotUnderstood;
   }
-  if (!options->plain) return PlayOnRealWindows(options->appDirectory);
+  if (!options->plain) return PlayOnRealWindows(*options);
   PlainScreen screen(std::cout);
   return PlayOn(screen, options->appDirectory);
 }

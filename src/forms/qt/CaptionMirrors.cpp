@@ -80,6 +80,8 @@ PictureFrameMirror::PictureFrameMirror(Frame& frame, EventEdge& edge, QWidget* p
     : Mirror(frame, edge, *new QFrame(parent)), widget_(static_cast<QFrame&>(Widget())) {
   widget_.setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
   const int border = 2 * widget_.frameWidth();
+  widget_.setBackgroundRole(QPalette::Window);
+  widget_.setAutoFillBackground(true);
   widget_.setFixedSize(kPictureFrameWidth + border, kPictureFrameHeight + border);
   FollowAll();
 }

@@ -52,7 +52,8 @@ class FrameMirror : public Mirror {
   SpokenCaption spoken_;
 };
 
-// A frame without a caption, around a picture, of a fixed inner size.
+// A frame without a caption, around a picture, of a fixed inner size. Its background is the
+// window's, so that the picture stands out from nothing but a plain grey.
 class PictureFrameMirror : public Mirror {
  public:
   PictureFrameMirror(Frame& frame, EventEdge& edge, QWidget* parent);

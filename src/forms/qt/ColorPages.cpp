@@ -1,4 +1,6 @@
+#include "forms/qt/FieldRows.h"
 #include "forms/qt/Pages.h"
+#include "gamefiles/PaletteLabel.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -26,7 +28,9 @@ void AddBar(Label& label, ScrollBar& bar, Label& value, QGridLayout& grid, QWidg
 
 QLayout* ColorList(FrmMain& main, TabGroupMirror& group, QWidget& page, MirrorSet& mirrors) {
   auto* column = new QVBoxLayout;
-  QWidget& list = mirrors.Add(main.lstColors, &page).Widget();
+  ListBoxMirror& colors = mirrors.Add(main.lstColors, &page);
+  colors.ShowColors(ColorInLabel);
+  QWidget& list = colors.Widget();
   group.Name(kPaletteTab, list);
   column->addWidget(&list);
   auto* buttons = new QHBoxLayout;
@@ -40,6 +44,7 @@ QLayout* ColorEditor(FrmMain& main, QWidget& page, MirrorSet& mirrors) {
   auto* grid = new QGridLayout;
   grid->setColumnStretch(kInputColumn, 1);
   grid->setHorizontalSpacing(page.fontMetrics().height());
+  grid->setVerticalSpacing(page.fontMetrics().height() / 2);
   LabelMirror& name = mirrors.Add(main.lblColorName, &page);
   QWidget& input = mirrors.Add(main.txtColorName, &page).Widget();
   name.Name(input);
@@ -49,6 +54,7 @@ QLayout* ColorEditor(FrmMain& main, QWidget& page, MirrorSet& mirrors) {
   AddBar(main.lblGrün, main.HScroll2, main.lblGrünWert, *grid, page, mirrors);
   AddBar(main.lblBlau, main.HScroll3, main.lblBlauWert, *grid, page, mirrors);
   const int below = grid->rowCount();
+  for (int row = 0; row < below; ++row) grid->setRowMinimumHeight(row, RowHeight(page));
   grid->addWidget(&mirrors.Add(main.picFarbe, &page).Widget(), below, kInputColumn, 1, 2);
   grid->setRowStretch(below, 1);
   return grid;
@@ -78,7 +84,9 @@ void AddPick(Label& label, PickList& pick, Swatch& swatch, QGridLayout& grid, QW
   constexpr int kCharactersShown = 22;
   const int row = grid.rowCount();
   LabelMirror& name = mirrors.Add(label, &frame);
-  auto& input = static_cast<QComboBox&>(mirrors.Add(pick, &frame).Widget());
+  PickListMirror& colors = mirrors.Add(pick, &frame);
+  colors.ShowColors(ColorInLabel);
+  auto& input = static_cast<QComboBox&>(colors.Widget());
   input.setMinimumContentsLength(kCharactersShown);
   name.Name(input);
   grid.addWidget(&name.Widget(), row, kLabelColumn);
@@ -90,6 +98,7 @@ QWidget* PairAdder(FrmMain& main, QWidget& page, MirrorSet& mirrors) {
   QWidget& frame = mirrors.Add(main.frameAddColors, &page).Widget();
   auto* grid = new QGridLayout(&frame);
   grid->setColumnStretch(kInputColumn, 1);
+  grid->setVerticalSpacing(frame.fontMetrics().height() / 2);
   AddPick(main.lblColor1, main.cmbColor1, main.picColor1, *grid, frame, mirrors);
   AddPick(main.lblColor2, main.cmbColor2, main.picColor2, *grid, frame, mirrors);
   const int below = grid->rowCount();

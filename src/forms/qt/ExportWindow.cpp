@@ -22,8 +22,8 @@ constexpr int kBetweenArrows = Pixels(105);
 
 enum Column { kAvailable, kArrows, kChosen };
 
-void AddList(Label& caption, MarkList& list, Column column, QGridLayout& grid, QWidget* window,
-             MirrorSet& mirrors) {
+LabelMirror& AddList(Label& caption, MarkList& list, Column column, QGridLayout& grid,
+                     QWidget* window, MirrorSet& mirrors) {
   LabelMirror& name = mirrors.Add(caption, window);
   QWidget& rows = mirrors.Add(list, window).Widget();
   rows.setMinimumSize(kListSize);
@@ -31,6 +31,7 @@ void AddList(Label& caption, MarkList& list, Column column, QGridLayout& grid, Q
   grid.addWidget(&name.Widget(), 0, column);
   grid.addWidget(&rows, 1, column);
   grid.setColumnStretch(column, 1);
+  return name;
 }
 
 // A large font needs more than the design.
@@ -83,9 +84,17 @@ ExportWindow::ExportWindow(FrmExport& exporter, EventEdge& edge, MirrorSet& mirr
   auto* grid = new QGridLayout;
   grid->setSpacing(kGap);
   grid->setRowMinimumHeight(0, kLabelHeight);
-  AddList(exporter.lblExportCar, exporter.lst1, kAvailable, *grid, this, mirrors);
+  LabelMirror& available =
+      AddList(exporter.lblExportCar, exporter.lst1, kAvailable, *grid, this, mirrors);
   grid->addLayout(Arrows(exporter, this, mirrors), 1, kArrows);
-  AddList(exporter.lblExport, exporter.lst2, kChosen, *grid, this, mirrors);
+  LabelMirror& chosen = AddList(exporter.lblExport, exporter.lst2, kChosen, *grid, this, mirrors);
+  // An arrow alone says little to who doesn't see where it points.
+  for (const Button* arrow : {&exporter.cmdAdd, &exporter.cmdAddAll}) {
+    chosen.Describe(mirrors.Of(*arrow).Widget());
+  }
+  for (const Button* arrow : {&exporter.cmdDel, &exporter.cmdDelAll}) {
+    available.Describe(mirrors.Of(*arrow).Widget());
+  }
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(kMargins);
   column->setSpacing(kBelowLists);

@@ -1,5 +1,7 @@
 #include "forms/qt/FieldRows.h"
 
+#include "forms/qt/PickBox.h"
+
 namespace wheelwright {
 namespace {
 
@@ -7,15 +9,21 @@ enum Column { kLabelColumn, kInputColumn, kInfoColumn };
 
 }  // namespace
 
+// A pick list is the highest input.
+int RowHeight(QWidget& page) { return PickBox(&page).sizeHint().height(); }
+
 FieldRows::FieldRows(QWidget& page, MirrorSet& mirrors)
     : page_(page), mirrors_(mirrors), grid_(*new QGridLayout(&page)) {
   const int gap = page.fontMetrics().height();
-  constexpr int kInputWidth = 24;  // in characters
+  // In characters. Most labels are shorter, so that the inputs stay in place from page to page.
+  constexpr int kLabelWidth = 23;
+  constexpr int kInputWidth = 24;
   constexpr int kInputShare = 3;
   constexpr int kInfoShare = 2;
   grid_.setContentsMargins(gap, gap, gap, gap);
   grid_.setHorizontalSpacing(gap);
   grid_.setVerticalSpacing(gap / 2);
+  grid_.setColumnMinimumWidth(kLabelColumn, kLabelWidth * page.fontMetrics().averageCharWidth());
   grid_.setColumnMinimumWidth(kInputColumn, kInputWidth * page.fontMetrics().averageCharWidth());
   grid_.setColumnStretch(kInputColumn, kInputShare);
   grid_.setColumnStretch(kInfoColumn, kInfoShare);
@@ -40,6 +48,9 @@ void FieldRows::AddInfo(Label& info) {
   grid_.addWidget(&mirror.Widget(), row_, kInfoColumn);
 }
 
-void FieldRows::Finish() { grid_.setRowStretch(row_ + 1, 1); }
+void FieldRows::Finish() {
+  for (int row = 0; row <= row_; ++row) grid_.setRowMinimumHeight(row, RowHeight(page_));
+  grid_.setRowStretch(row_ + 1, 1);
+}
 
 }  // namespace wheelwright

@@ -7,6 +7,9 @@
 
 namespace wheelwright {
 
+// The height of a row with any kind of input, so that rows keep the same distance on all pages.
+int RowHeight(QWidget& page);
+
 class FieldRows {
  public:
   FieldRows(QWidget& page, MirrorSet& mirrors);

@@ -2,6 +2,7 @@
 
 #include "forms/qt/PickBox.h"
 #include "forms/qt/QtText.h"
+#include "forms/qt/SwatchIcon.h"
 
 #include <QScopedValueRollback>
 #include <QScrollBar>
@@ -58,6 +59,11 @@ PickListMirror::PickListMirror(PickList& list, EventEdge& edge, QWidget* parent)
   FollowAll();
 }
 
+void PickListMirror::ShowColors(ColorOfText colorOf) {
+  widget_.setIconSize(SwatchIconSize(widget_));
+  model_.ShowColors(colorOf);
+}
+
 void PickListMirror::Chosen(int row) {
   ByHand([&] { list_.ChooseByHand(row); });
   Follow(Aspect::Choice);
@@ -87,6 +93,11 @@ ListBoxMirror::ListBoxMirror(ListBox& list, EventEdge& edge, QWidget* parent)
                    [this] { SelectionChanged(); });
   widget_.chosenAgain = [this](int row) { Chosen(row); };
   FollowAll();
+}
+
+void ListBoxMirror::ShowColors(ColorOfText colorOf) {
+  widget_.setIconSize(SwatchIconSize(widget_));
+  model_.ShowColors(colorOf);
 }
 
 void ListBoxMirror::SelectionChanged() {

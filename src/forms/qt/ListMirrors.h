@@ -14,6 +14,9 @@ class PickListMirror : public Mirror {
  public:
   PickListMirror(PickList& list, EventEdge& edge, QWidget* parent);
 
+  // Shows the colours that the rows tell of beside them.
+  void ShowColors(ColorOfText colorOf);
+
  protected:
   void Follow(Aspect aspect) override;
   std::string ContentDifference() const override;
@@ -29,6 +32,9 @@ class PickListMirror : public Mirror {
 class ListBoxMirror : public Mirror {
  public:
   ListBoxMirror(ListBox& list, EventEdge& edge, QWidget* parent);
+
+  // Shows the colours that the rows tell of beside them.
+  void ShowColors(ColorOfText colorOf);
 
  protected:
   void Follow(Aspect aspect) override;

@@ -60,11 +60,30 @@ QLayout* BottomRow(FrmMain& main, QWidget* window, MirrorSet& mirrors) {
   return row;
 }
 
+// The platform's keys, or the usual one where the platform has none.
+QShortcut* Shortcut(QKeySequence::StandardKey key, const char* usual, QWidget* window) {
+  auto* shortcut = new QShortcut(window);
+  const QList<QKeySequence> keys = QKeySequence::keyBindings(key);
+  shortcut->setKeys(keys.isEmpty() ? QList<QKeySequence>{QKeySequence(usual)} : keys);
+  return shortcut;
+}
+
 // A disabled button takes no click from its key either.
-void GiveKey(QKeySequence::StandardKey key, const Button& button, QWidget* window,
-             const MirrorSet& mirrors) {
+void GiveKey(QShortcut* key, const Button& button, const MirrorSet& mirrors) {
   auto* clicked = &static_cast<QPushButton&>(mirrors.Of(button).Widget());
-  QObject::connect(new QShortcut(key, window), &QShortcut::activated, clicked, &QPushButton::click);
+  QObject::connect(key, &QShortcut::activated, clicked, &QPushButton::click);
+}
+
+void GiveKeys(const FrmMain& main, QWidget* window, const MirrorSet& mirrors) {
+  GiveKey(Shortcut(QKeySequence::Open, "Ctrl+O", window), main.cmdOpen, mirrors);
+  GiveKey(Shortcut(QKeySequence::Save, "Ctrl+S", window), main.cmdSave, mirrors);
+  GiveKey(Shortcut(QKeySequence::SaveAs, "Ctrl+Shift+S", window), main.cmdSaveAs, mirrors);
+  GiveKey(Shortcut(QKeySequence::HelpContents, "F1", window), main.cmdHelp, mirrors);
+  GiveKey(Shortcut(QKeySequence::Quit, "Ctrl+Q", window), main.cmdEnde, mirrors);
+  // In the list of vehicles a person finds one by typing its name.
+  QWidget* vehicles = &mirrors.Of(main.cmbAutos).Widget();
+  QObject::connect(Shortcut(QKeySequence::Find, "Ctrl+F", window), &QShortcut::activated, vehicles,
+                   [vehicles] { vehicles->setFocus(Qt::ShortcutFocusReason); });
 }
 
 }  // namespace
@@ -78,11 +97,7 @@ MainWindow::MainWindow(FrmMain& main, EventEdge& edge, MirrorSet& mirrors)
   grid->addLayout(LeftColumn(main, this, mirrors), 0, 0, 2, 1);
   grid->addLayout(TabGroups(main, this, mirrors), 0, 1);
   grid->addLayout(BottomRow(main, this, mirrors), 1, 1);
-  GiveKey(QKeySequence::Open, main.cmdOpen, this, mirrors);
-  GiveKey(QKeySequence::Save, main.cmdSave, this, mirrors);
-  GiveKey(QKeySequence::SaveAs, main.cmdSaveAs, this, mirrors);
-  GiveKey(QKeySequence::HelpContents, main.cmdHelp, this, mirrors);
-  GiveKey(QKeySequence::Quit, main.cmdEnde, this, mirrors);
+  GiveKeys(main, this, mirrors);
 }
 
 }  // namespace wheelwright

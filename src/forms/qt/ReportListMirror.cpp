@@ -17,9 +17,23 @@ class ReportView : public QTreeView {
  public:
   using QTreeView::QTreeView;
 
+  // A large font needs more than the design.
+  void WidenForHeaders() {
+    for (int column = 0; column < header()->count(); ++column) {
+      const int needed = header()->sectionSizeHint(column);
+      if (header()->sectionSize(column) < needed) header()->resizeSection(column, needed);
+    }
+    FitLast();
+  }
+
  protected:
   void resizeEvent(QResizeEvent* event) override {
     QTreeView::resizeEvent(event);
+    FitLast();
+  }
+
+ private:
+  void FitLast() {
     const int last = header()->count() - 1;
     const int room = viewport()->width() - header()->sectionPosition(last);
     header()->resizeSection(last, std::min(room, kColumnWidths.back()));
@@ -53,7 +67,9 @@ ReportListMirror::ReportListMirror(ReportList& list, EventEdge& edge, QWidget* p
 
 void ReportListMirror::Follow(Aspect aspect) {
   if (aspect == Aspect::Rows) model_.RowsChanged();
-  if (aspect == Aspect::Content) model_.HeadersChanged();
+  if (aspect != Aspect::Content) return;
+  model_.HeadersChanged();
+  static_cast<ReportView&>(widget_).WidenForHeaders();
 }
 
 std::string ReportListMirror::ContentDifference() const {

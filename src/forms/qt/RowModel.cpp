@@ -1,6 +1,7 @@
 #include "forms/qt/RowModel.h"
 
 #include "forms/qt/QtText.h"
+#include "forms/qt/SwatchIcon.h"
 
 namespace wheelwright {
 
@@ -12,8 +13,17 @@ int RowModel::rowCount(const QModelIndex& parent) const {
 }
 
 QVariant RowModel::data(const QModelIndex& index, int role) const {
-  if (role != Qt::DisplayRole || index.row() < 0 || index.row() >= list_.Count()) return {};
-  return Shown(list_.Rows()[static_cast<std::size_t>(index.row())]);
+  if (index.row() < 0 || index.row() >= list_.Count()) return {};
+  const std::string& text = list_.Rows()[static_cast<std::size_t>(index.row())];
+  if (role == Qt::DisplayRole) return Shown(text);
+  return role == Qt::DecorationRole ? Decoration(text) : QVariant();
+}
+
+QVariant RowModel::Decoration(const std::string& text) const {
+  const auto color = colorOf_ == nullptr ? std::nullopt : colorOf_(text);
+  if (!color) return {};
+  const auto& [red, green, blue] = *color;
+  return SwatchIcon({red, green, blue});
 }
 
 void RowModel::RowsChanged() {

@@ -3,6 +3,8 @@
 #include "screen/DefinitionFields.h"
 #include "screen/HandlingFields.h"
 
+#include <set>
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
@@ -130,9 +132,34 @@ TEST_P(LayoutTest, TheRowsOfATabStandInTheirOrder) {
   });
 }
 
+// How far the middles of two rows that follow each other are apart.
+template <class Fields>
+void CollectDistances(const Fields& fields, const std::function<QWidget&(const Label&)>& of,
+                      const FrmMain& main, std::set<int>& distances) {
+  for (const auto& upper : fields) {
+    for (const auto& lower : fields) {
+      if (upper.label == nullptr || lower.label == nullptr || upper.tab != lower.tab) continue;
+      const QWidget& above = of(main.*upper.label);
+      const QWidget& below = of(main.*lower.label);
+      if (lower.tabRow != upper.tabRow + 1 || !above.isVisible() || !below.isVisible()) continue;
+      distances.insert(below.geometry().top() - above.geometry().top());
+    }
+  }
+}
+
+TEST_P(LayoutTest, TheRowsOfAllTabsKeepTheSameDistance) {
+  const auto of = [this](const Label& label) -> QWidget& { return windows.Of(label); };
+  std::set<int> distances;
+  Walk([&](Window&, QWidget&) {
+    CollectDistances(kHandlingFields, of, main, distances);
+    CollectDistances(kDefinitionFields, of, main, distances);
+  });
+  EXPECT_EQ(distances.size(), 1u) << ::testing::PrintToString(distances);
+}
+
 INSTANTIATE_TEST_SUITE_P(Languages, LayoutTest,
                          ::testing::Combine(::testing::ValuesIn(Languages()),
-                                            ::testing::Values(1.0, 2.0)),
+                                            ::testing::Values(1.0, 1.5, 2.0)),
                          NameOfSetting);
 
 }  // namespace

@@ -66,6 +66,14 @@ TEST_F(ReportListMirrorTest, ColumnsHaveTheirWidths) {
   EXPECT_FALSE(view.horizontalScrollBar()->isVisible());
 }
 
+TEST_F(ReportListMirrorTest, AColumnIsAtLeastAsWideAsItsHeader) {
+  report.SetColumn(0, "A header that no column has room for");
+  EXPECT_EQ(Widths()[0], view.header()->sectionSizeHint(0));
+  EXPECT_GT(Widths()[0], 100);
+  EXPECT_EQ(Widths()[1], 160);
+  EXPECT_FALSE(view.horizontalScrollBar()->isVisible());
+}
+
 TEST_F(ReportListMirrorTest, TheLastColumnMakesRoomForAVerticalScrollBar) {
   AddRows(200);
   ASSERT_TRUE(view.verticalScrollBar()->isVisible());
