@@ -86,12 +86,13 @@ def with_display(measure):
         server.terminate()
 
 
-def row(what, value, beside, limit, unit="ms"):
+def row(what, value, beside, limit=None, unit="ms"):
     ratio = value / beside[1]
-    verdict = "met" if ratio <= limit else "missed"
+    target = "" if limit is None else f"{limit:g}"
+    verdict = "" if limit is None else "met" if ratio <= limit else "missed"
     shown = "{:.0f}" if value >= 100 else "{:.3g}"
     print(f"| {what} | {shown.format(value)} {unit} | {beside[0]} "
-          f"| {beside[1]:.3g} {unit} | {ratio:.2f} | {limit:g} | {verdict} |")
+          f"| {beside[1]:.3g} {unit} | {ratio:.2f} | {target} | {verdict} |")
 
 
 def file_rows(times):
@@ -104,7 +105,7 @@ def file_rows(times):
         command = ["mawk", "-f", HERE / f"{script}.awk", data_file("handling")]
         row("open and save, handling", both, (f"mawk, {script}.awk", median_ms(command)), 0.75)
     row("open, handling", times["plain/handling/open/32000"],
-        ("`cat`", median_ms(["cat", data_file("handling")])), float("inf"))
+        ("`cat`", median_ms(["cat", data_file("handling")])))
 
 
 def growth_rows(times):
