@@ -1,0 +1,143 @@
+"""A copy of the source tree in which the logic can be changed, built and tested."""
+
+import contextlib
+import json
+import os
+import pathlib
+import re
+import shutil
+import signal
+import subprocess
+import sys
+import time
+from dataclasses import dataclass
+
+SKIPPED = re.compile(r"^(\.git|build.*|dist|__pycache__)$")
+PROGRAMS = ("wheelwright-tests", "wheelwright-replay")
+SUITE = re.compile(r"^(?:TEST|TEST_F|TEST_P|RC_GTEST_PROP|RC_GTEST_FIXTURE_PROP)\((\w+)", re.MULTILINE)
+# A change that never ends mustn't take the whole machine's memory.
+MOST_MEMORY = 4 << 30
+# A change that makes a step slower than this many times the usual is one that hangs.
+PATIENCE = 10
+SHORTEST_PATIENCE = 60
+
+
+@dataclass(frozen=True)
+class Outcome:
+    passed: bool
+    ended: bool
+    output: str
+
+
+def run(command, environment, limit=None):
+    """Runs a command in a group of its own; after `limit` seconds the whole group is ended."""
+    process = subprocess.Popen(["prlimit", f"--as={MOST_MEMORY}", *command], env=environment,
+                               start_new_session=True, stdin=subprocess.DEVNULL,
+                               stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
+    try:
+        output, _ = process.communicate(timeout=limit)
+        ended = True
+    except subprocess.TimeoutExpired:
+        os.killpg(process.pid, signal.SIGKILL)
+        output, _ = process.communicate()
+        ended = False
+    return Outcome(ended and process.returncode == 0, ended, output.decode("utf-8", "replace"))
+
+
+class Bench:
+    def __init__(self, root, folder):
+        self.root = root
+        self.tree = folder / "tree"
+        self.build = self.tree / "build" / "mutants"
+        self.built = folder / "built"
+        self.temporary = folder / "tmp"
+        self.limits = {}
+        self.refresh()
+
+    def refresh(self):
+        """Makes the copy equal to the tree; what hasn't changed keeps its time."""
+        wanted = set()
+        for folder, folders, names in os.walk(self.root):
+            folders[:] = [name for name in folders if not SKIPPED.match(name)]
+            for name in names:
+                file = pathlib.Path(folder, name)
+                wanted.add(file.relative_to(self.root))
+        for name in sorted(wanted):
+            source, copy = self.root / name, self.tree / name
+            if not copy.exists() or copy.read_bytes() != source.read_bytes():
+                copy.parent.mkdir(parents=True, exist_ok=True)
+                shutil.copy(source, copy)
+        for part in ("src", "tests", "tools"):
+            for copy in (self.tree / part).rglob("*"):
+                if copy.is_file() and "__pycache__" not in copy.parts \
+                        and copy.relative_to(self.tree) not in wanted:
+                    copy.unlink()
+
+    def compile(self, *targets):
+        done = subprocess.run(
+            ["cmake", "--build", self.build, "--target", *targets, "--", "-j2", "--quiet"],
+            capture_output=True, text=True, check=False)
+        return Outcome(done.returncode == 0, True, done.stdout + done.stderr)
+
+    def prepare(self):
+        """Builds the unchanged copy and tries its tests, which says how long they may take."""
+        subprocess.run(["cmake", "--preset", "mutants", "--log-level=WARNING"], cwd=self.tree,
+                       stdout=subprocess.DEVNULL, check=True)
+        built = self.compile(*PROGRAMS)
+        if not built.passed:
+            sys.exit(built.output)
+        for name, step in (("tests", self.unit_tests), ("sessions", self.sessions)):
+            began = time.monotonic()
+            outcome = step()
+            if not outcome.passed:
+                sys.exit(outcome.output + "\nThe tests fail without any change.")
+            took = time.monotonic() - began
+            self.limits[name] = max(PATIENCE * took, SHORTEST_PATIENCE)
+
+    @contextlib.contextmanager
+    def changed(self, file, text):
+        """Has another text in a file of the copy for a while. After a header all is put back that was
+        built, for half the tree would have to be built anew."""
+        path = self.tree / file
+        source, times = path.read_bytes(), path.stat()
+        is_header = path.suffix == ".h"
+        if is_header:
+            shutil.rmtree(self.built, ignore_errors=True)
+            shutil.copytree(self.build, self.built, symlinks=True)
+        path.write_bytes(text.encode("utf-8"))
+        try:
+            yield
+        finally:
+            path.write_bytes(source)
+            if is_header:
+                os.utime(path, ns=(times.st_atime_ns, times.st_mtime_ns))
+                shutil.rmtree(self.build)
+                self.built.rename(self.build)
+
+    def compiled_files(self):
+        entries = json.loads((self.build / "compile_commands.json").read_text(encoding="utf-8"))
+        files = (pathlib.Path(entry["directory"], entry["file"]) for entry in entries)
+        return [file.relative_to(self.tree) for file in files if file.is_relative_to(self.tree)]
+
+    def environment(self, **more):
+        shutil.rmtree(self.temporary, ignore_errors=True)
+        self.temporary.mkdir(parents=True)
+        return {**os.environ, "TMPDIR": str(self.temporary), "TEST_TMPDIR": str(self.temporary), **more}
+
+    def unit_tests(self, suites=("*",)):
+        pattern = ":".join(shape for suite in suites for shape in (f"{suite}.*", f"*/{suite}.*"))
+        # Random inputs are the same for every change.
+        environment = self.environment(RC_PARAMS="seed=1")
+        return run([str(self.build / PROGRAMS[0]), "--gtest_brief=1", "--gtest_fail_fast",
+                    f"--gtest_filter={pattern}"], environment, self.limits.get("tests"))
+
+    def sessions(self):
+        return run([sys.executable, str(self.tree / "tests/sessions/play.py"),
+                    str(self.build / PROGRAMS[1]), "--plain"], self.environment(),
+                   self.limits.get("sessions"))
+
+    def suites_beside(self, file):
+        """The test suites of the folder of tests that goes with a source."""
+        folder = self.tree / "tests" / pathlib.PurePath(file).parts[1]
+        found = {name for test in folder.glob("*Test.cpp") for name in SUITE.findall(test.read_text())}
+        return sorted(found)
