@@ -33,3 +33,6 @@ if(WHEELWRIGHT_EDITOR)
     install(FILES ${CMAKE_BINARY_DIR}/link/wheelwright DESTINATION ${CMAKE_INSTALL_BINDIR})
   endif()
 endif()
+
+include(cmake/Desktop.cmake)
+include(cmake/Package.cmake)

@@ -6,8 +6,15 @@ declare -A PACKAGES=(
   [test]="libgtest-dev librapidcheck-dev clang-format clang-tidy python3 ccache"
   [bench]="libbenchmark-dev mawk xvfb"
   [fuzz]="clang libclang-rt-dev"
-  [coverage]="gcovr"
+  [coverage]="clang libclang-rt-dev llvm"
+  [mutants]="clang"
   [pictures]="librsvg2-bin imagemagick"
+  [icons]="librsvg2-bin icoutils"
+  [metadata]="desktop-file-utils appstream mandoc"
+  [package]="lintian"
+  [try-package]="mmdebstrap xvfb xdotool imagemagick x11-utils"
+  [windows-logic]="g++-mingw-w64-x86-64-posix wine wine64 cmake ninja-build nlohmann-json3-dev googletest python3"
+  [windows]="qt6-base-dev qt6-base-dev-tools dpkg-dev nsis zip unzip fonts-wine xvfb xdotool imagemagick"
 )
 
 # The packages of the given purposes, in one line.

@@ -1,5 +1,6 @@
 // The program: the application of the toolkit, and what runs in it.
 #include "forms/qt/Program.h"
+#include "forms/qt/ProgramIcon.h"
 
 #include <clocale>
 #include <cstdio>
@@ -28,6 +29,9 @@ int main(int argumentCount, char** arguments) {
   }
   QApplication application(argumentCount, arguments);
   QApplication::setApplicationName("Wheelwright");
+  // The desktop finds the entry of its menu by this name.
+  QApplication::setDesktopFileName("example.wheelwright.Wheelwright");
+  QApplication::setWindowIcon(wheelwright::ProgramIcon());
   // The toolkit sets the user's locale, whose numbers may have a decimal comma.
   std::setlocale(LC_NUMERIC, "C");
   return wheelwright::RunProgram();

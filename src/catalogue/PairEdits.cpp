@@ -70,7 +70,7 @@ void FillSwatch(Session& session, const PickList& list, Swatch& swatch) {
 void ShowPair(Session& session) {
   FrmMain& main = session.main;
   const int pair = main.lstCarColors.Row();
-  if (main.lstCarColors.Count() < 1 && pair == RowList::kNoRow) return;
+  if (main.lstCarColors.Count() < 1) return;
   main.cmbColor1.Choose(NumberAt(CurrentEntry(session).Color1, pair));
   main.cmbColor2.Choose(NumberAt(CurrentEntry(session).Color2, pair));
 }

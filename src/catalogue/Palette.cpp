@@ -13,9 +13,7 @@ namespace {
 // How a colour is marked while it is being deleted.
 constexpr std::int16_t kDeletedIndex = -1;
 
-bool NothingToStoreIn(const ListBox& list) {
-  return list.Count() < 1 && list.Row() == RowList::kNoRow;
-}
+bool NothingToStoreIn(const ListBox& list) { return list.Count() < 1; }
 
 ColorEntry& ChosenColor(Session& session) {
   return session.vars.Colors.At(session.main.lstColors.Row());

@@ -1,8 +1,10 @@
+// Windows-1252.
 #include "core/CodePage.h"
+
+#include "core/Utf8.h"
 
 #include <algorithm>
 #include <array>
-#include <cstdint>
 
 namespace wheelwright {
 namespace {
@@ -26,59 +28,24 @@ char ByteOf(char32_t character) {
   return static_cast<char>(0x80 + (found - kUpperControls.begin()));
 }
 
-void AppendUtf8(std::string& out, char32_t character) {
-  if (character < 0x80) {
-    out += static_cast<char>(character);
-  } else if (character < 0x800) {
-    out += static_cast<char>(0xC0U | (character >> 6U));
-    out += static_cast<char>(0x80U | (character & 0x3FU));
-  } else {
-    out += static_cast<char>(0xE0U | (character >> 12U));
-    out += static_cast<char>(0x80U | ((character >> 6U) & 0x3FU));
-    out += static_cast<char>(0x80U | (character & 0x3FU));
+constexpr std::array<char, 256> LowerCaseTable() {
+  std::array<char, 256> table{};
+  for (unsigned byte = 0; byte < 256; ++byte) {
+    const bool asciiCapital = byte >= 'A' && byte <= 'Z';
+    const bool latinCapital = byte >= 0xC0 && byte <= 0xDE && byte != 0xD7;
+    const bool caronOrLigature = byte == 0x8A || byte == 0x8C || byte == 0x8E;
+    unsigned lower = byte;
+    if (asciiCapital || latinCapital) lower = byte + 0x20;
+    if (caronOrLigature) lower = byte + 0x10;
+    if (byte == 0x9F) lower = 0xFF;
+    table[byte] = static_cast<char>(lower);
   }
-}
-
-constexpr char32_t kNoCharacter = 0xFFFFFFFF;
-
-// Forms longer than needed, halves of a pair and numbers behind the last character aren't UTF-8.
-bool IsCharacter(char32_t number, std::size_t length) {
-  const bool tooLong = (length == 3 && number < 0x800) || (length == 4 && number < 0x10000);
-  const bool halfOfPair = number >= 0xD800 && number <= 0xDFFF;
-  return !tooLong && !halfOfPair && number <= 0x10FFFF;
-}
-
-// Takes one character off the front of the text; a byte that begins none is taken alone.
-char32_t TakeCharacter(std::string_view& utf8) {
-  const auto lead = static_cast<unsigned char>(utf8.front());
-  const std::size_t length = lead < 0x80   ? 1
-                             : lead < 0xC2 ? 0
-                             : lead < 0xE0 ? 2
-                             : lead < 0xF0 ? 3
-                             : lead < 0xF5 ? 4
-                                           : 0;
-  if (length == 0 || length > utf8.size()) {
-    utf8.remove_prefix(1);
-    return kNoCharacter;
-  }
-  char32_t character = length == 1 ? lead : lead & (0x7FU >> length);
-  for (std::size_t i = 1; i < length; ++i) {
-    const auto byte = static_cast<unsigned char>(utf8[i]);
-    if ((byte & 0xC0U) != 0x80U) {
-      utf8.remove_prefix(1);
-      return kNoCharacter;
-    }
-    character = (character << 6U) | (byte & 0x3FU);
-  }
-  if (!IsCharacter(character, length)) {
-    utf8.remove_prefix(1);
-    return kNoCharacter;
-  }
-  utf8.remove_prefix(length);
-  return character;
+  return table;
 }
 
 }  // namespace
+
+constexpr std::array<char, 256> codepage::kLowerCase = LowerCaseTable();
 
 std::string ToUnicode(std::string_view codePageText) {
   std::string utf8;

@@ -12,7 +12,8 @@ inline constexpr char kPathSeparator = '/';
 #endif
 
 // A file that nobody may write counts as read-only even for a user whom the system would let write,
-// such as root: the mark is there to protect the file.
+// such as root: the mark is there to protect the file. A path on Windows may be longer than 260
+// characters.
 class DiskFiles : public Files {
  public:
   bool Exists(const std::string& path) const override;
@@ -21,6 +22,10 @@ class DiskFiles : public Files {
   void Copy(const std::string& from, const std::string& to) override;
   void ClearAttributes(const std::string& path) override;
   std::vector<std::string> List(const std::string& directory) const override;
+
+ private:
+  // The same in the order in which the system gives them.
+  static std::vector<std::string> NamesIn(const std::string& directory);
 };
 
 }  // namespace wheelwright

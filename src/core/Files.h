@@ -8,8 +8,8 @@
 namespace wheelwright {
 
 // Failures: 53 a file to be read isn't there; 76 the directory of a path isn't there; 75 no access,
-// a directory in a file's place, or a write to a read-only file; 61 the disk is full; 57 any other
-// fault.
+// a directory in a file's place, or a write to a read-only file; 70 another program keeps the file
+// to itself, as it can on Windows; 61 the disk is full; 57 any other fault.
 class Files {
  public:
   Files() = default;

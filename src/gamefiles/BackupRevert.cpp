@@ -47,8 +47,6 @@ void RevertTables(Session& session) {
     case kColorFile:
       RevertColors(session);
       break;
-    default:
-      break;
   }
 }
 

@@ -73,9 +73,10 @@ const std::array<const HandlingField*, kHandlingFieldCount>& HandlingFieldsByDis
     std::array<const HandlingField*, kHandlingFieldCount> fields{};
     std::transform(kHandlingFields.begin(), kHandlingFields.end(), fields.begin(),
                    [](const HandlingField& field) { return &field; });
-    std::sort(fields.begin(), fields.end(), [](const auto* left, const auto* right) {
-      return left->displayOrder < right->displayOrder;
-    });
+    std::sort(fields.begin(), fields.end(),
+              [](const HandlingField* left, const HandlingField* right) {
+                return left->displayOrder < right->displayOrder;
+              });
     return fields;
   }();
   return byDisplay;

@@ -1,3 +1,4 @@
+#include "catalogue/PairEdits.h"
 #include "support/TableTexts.h"
 #include "support/TestSession.h"
 #include "support/Thrown.h"
@@ -334,6 +335,14 @@ TEST(PairEdits, ARowOfAnotherEntryOfTheSameNameIsReadInTheCurrentOne) {
   test.main.lstCarColors.ChooseByHand(0);
   EXPECT_EQ(test.main.cmbColor1.Text(), "Gelb - 250,250,0");
   EXPECT_EQ(NumberThrownBy([&] { test.main.lstCarColors.ChooseByHand(1); }), 9);
+}
+
+TEST(PairEdits, RowsWithoutAChoiceAreFailure9) {
+  Opened test("bus,0,1\r\n");
+  test.main.cmbAutos.ChooseByHand(0);
+  test.main.lstCarColors.Clear();
+  test.main.lstCarColors.AddRow("Rot - Blau");
+  EXPECT_EQ(NumberThrownBy([&] { ShowPair(test.session); }), 9);
 }
 
 }  // namespace

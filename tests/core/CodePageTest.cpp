@@ -63,7 +63,7 @@ TEST(CodePageTest, AControlCharacterWhoseByteHasAnotherCharacterIsLacking) {
 using Case = std::pair<std::string, std::string>;
 
 TEST(CodePageTest, EachByteThatIsNoUtf8BecomesAQuestionMark) {
-  const std::array<Case, 14> cases = {{
+  const std::array<Case, 15> cases = {{
       {"a\x80z", "a?z"},             // nothing to continue
       {"\xBF", "?"},                 //
       {"\xC3", "?"},                 // cut short
@@ -72,6 +72,7 @@ TEST(CodePageTest, EachByteThatIsNoUtf8BecomesAQuestionMark) {
       {"\xE2\x82z", "??z"},          //
       {"\xF0\x9F\x9A", "???"},       //
       {"\xC0\xAF", "??"},            // longer than needed
+      {"\xC1\x81", "??"},            //
       {"\xE0\x81\x81", "???"},       //
       {"\xF0\x80\x81\x81", "????"},  //
       {"\xED\xA0\x80", "???"},       // half of a pair

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 #include <random>
 #include <string>
+#include <system_error>
 #include <vector>
 
 namespace wheelwright::testing {
@@ -13,7 +14,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr int kFileNotFound = 53;
-constexpr int kDeviceFault = 57;
 constexpr int kNoAccess = 75;
 constexpr int kPathNotFound = 76;
 
@@ -21,7 +21,14 @@ constexpr int kPathNotFound = 76;
 class DiskFilesTest : public ::testing::Test {
  protected:
   DiskFilesTest() { fs::create_directory(folder_); }
-  ~DiskFilesTest() override { fs::remove_all(folder_); }
+  // Windows removes no file that is read-only.
+  ~DiskFilesTest() override {
+    for (const auto& entry : fs::recursive_directory_iterator(folder_)) {
+      std::error_code ignored;
+      fs::permissions(entry, fs::perms::owner_write, fs::perm_options::add, ignored);
+    }
+    fs::remove_all(folder_);
+  }
 
   // The path, in UTF-8, of a name in the folder.
   std::string In(const std::string& name) const { return folder_.string() + "/" + name; }
@@ -116,13 +123,6 @@ TEST_F(DiskFilesTest, ADirectoryInAFilesPlaceIsFailure75) {
   EXPECT_EQ(WriteFailure(In("sub")), kNoAccess);
 }
 
-TEST_F(DiskFilesTest, AnyOtherFaultIsFailure57) {
-  fs::create_symlink("loop", In("loop"));
-  EXPECT_EQ(ReadFailure(In("loop")), kDeviceFault);
-  EXPECT_EQ(WriteFailure(In("loop")), kDeviceFault);
-  EXPECT_FALSE(files_.Exists(In("loop")));
-}
-
 TEST_F(DiskFilesTest, AReadOnlyFileRefusesWritingAndKeepsItsText) {
   files_.Write(In("a.cfg"), "old");
   files_.Write(In("b.cfg"), "other");
@@ -139,14 +139,6 @@ TEST_F(DiskFilesTest, ClearingTheAttributesMakesAReadOnlyFileWritable) {
   EXPECT_EQ(files_.Read(In("a.cfg")), "old");
   EXPECT_EQ(WriteFailure(In("a.cfg")), 0);
   EXPECT_EQ(files_.Read(In("a.cfg")), "new");
-}
-
-TEST_F(DiskFilesTest, ClearingTheAttributesLeavesAWritableFileAsItIs) {
-  files_.Write(In("a.cfg"), "old");
-  fs::permissions(In("a.cfg"), fs::perms::owner_read | fs::perms::owner_write);
-  files_.ClearAttributes(In("a.cfg"));
-  EXPECT_EQ(fs::status(In("a.cfg")).permissions(), fs::perms::owner_read | fs::perms::owner_write);
-  EXPECT_EQ(files_.Read(In("a.cfg")), "old");
 }
 
 TEST_F(DiskFilesTest, ACopyReplacesTheTargetAndLeavesItsModel) {
@@ -177,11 +169,6 @@ TEST_F(DiskFilesTest, AListNamesTheFilesOnlyOrderedIgnoringCase) {
   EXPECT_EQ(files_.List(In("")), names);
 }
 
-TEST_F(DiskFilesTest, NamesThatDifferInCaseAloneComeInTheOrderOfTheirBytes) {
-  for (const char* name : {"a.lng", "A.lng", "AA.lng"}) files_.Write(In(name), "x");
-  EXPECT_EQ(files_.List(folder_.string()), (std::vector<std::string>{"A.lng", "a.lng", "AA.lng"}));
-}
-
 TEST_F(DiskFilesTest, NamesThatTheCodePageLacksAreListedInUtf8) {
   for (const char* name : {"日本.lng", "Ελλάδα.lng"}) files_.Write(In(name), "x");
   EXPECT_EQ(files_.List(folder_.string()), (std::vector<std::string>{"日本.lng", "Ελλάδα.lng"}));
@@ -193,7 +180,28 @@ TEST_F(DiskFilesTest, AMissingOrEmptyFolderListsNothing) {
 }
 
 #ifdef __linux__
+constexpr int kDeviceFault = 57;
 constexpr int kDiskFull = 61;
+
+TEST_F(DiskFilesTest, AnyOtherFaultIsFailure57) {
+  fs::create_symlink("loop", In("loop"));
+  EXPECT_EQ(ReadFailure(In("loop")), kDeviceFault);
+  EXPECT_EQ(WriteFailure(In("loop")), kDeviceFault);
+  EXPECT_FALSE(files_.Exists(In("loop")));
+}
+
+TEST_F(DiskFilesTest, ClearingTheAttributesLeavesAWritableFileAsItIs) {
+  files_.Write(In("a.cfg"), "old");
+  fs::permissions(In("a.cfg"), fs::perms::owner_read | fs::perms::owner_write);
+  files_.ClearAttributes(In("a.cfg"));
+  EXPECT_EQ(fs::status(In("a.cfg")).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+  EXPECT_EQ(files_.Read(In("a.cfg")), "old");
+}
+
+TEST_F(DiskFilesTest, NamesThatDifferInCaseAloneComeInTheOrderOfTheirBytes) {
+  for (const char* name : {"a.lng", "A.lng", "AA.lng"}) files_.Write(In(name), "x");
+  EXPECT_EQ(files_.List(folder_.string()), (std::vector<std::string>{"A.lng", "a.lng", "AA.lng"}));
+}
 
 TEST_F(DiskFilesTest, AFullDiskIsFailure61WhetherTheWriteReportsItOrTheClose) {
   EXPECT_EQ(WriteFailure("/dev/full", "x"), kDiskFull);

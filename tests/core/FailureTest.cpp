@@ -77,5 +77,10 @@ TEST(FailureTest, AnyOtherExceptionIsThrownOn) {
   EXPECT_THROW(InFlight([] { throw 5; }), int);
 }
 
+TEST(FailureTest, ANumberWithoutATextIsSaidToBeTheProgramsOwn) {
+  EXPECT_STREQ(DescriptionOf(static_cast<FailureNumber>(1000)),
+               "Application-defined or object-defined error");
+}
+
 }  // namespace
 }  // namespace wheelwright::testing

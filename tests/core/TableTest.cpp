@@ -92,6 +92,13 @@ TEST(TableTest, AWalkGoesThroughAllRecordsInOrder) {
   EXPECT_EQ(names, "BUS;VAN;BUS;");
 }
 
+TEST(TableTest, AStepBehindGivesTheRecordAndGoesOn) {
+  Table<Car> table = TableOf({"BUS", "VAN"});
+  auto walker = table.Walk().begin();
+  EXPECT_EQ((*walker++).CarName, "BUS");
+  EXPECT_EQ(walker->CarName, "VAN");
+}
+
 TEST(TableTest, ACopySharesNothingWithItsModel) {
   Table<CarColorEntry> model;
   model.Reset();

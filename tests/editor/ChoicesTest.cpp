@@ -82,6 +82,17 @@ TEST(Choices, AnyOtherPositionStoresNothingButMarks) {
   }
 }
 
+TEST(Choices, WithoutAChoiceACodeListStoresNothingButMarks) {
+  for (const CodeList& list : kCodeLists) {
+    TestSession s;
+    HoldTwoCars(s);
+    (s.main.*list.pick).Clear();
+    StoreCode(s.session, list);
+    EXPECT_EQ(s.vars.Cars.At(1), TaggedCar("BYL", "b"));
+    EXPECT_FALSE(s.vars.IsSaved);
+  }
+}
+
 TEST(Choices, ACodeListStoresFirstAndThenMarks) {
   for (const CodeRow& row : kCodeRows) {
     TestSession s;

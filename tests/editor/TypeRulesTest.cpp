@@ -218,5 +218,14 @@ TEST(TypeRules, WithoutADefinitionFileTheRulesFail) {
   EXPECT_EQ(NumberThrownBy([&] { ApplyTypeRules(test.session); }), 9);
 }
 
+TEST(TypeRules, WithoutAChosenWheelNoneIsStored) {
+  Showing test({Vehicle("A", "plane", "77", "")});
+  test.vars.IsSaved = true;
+  ASSERT_EQ(test.main.cmbExtra1.Row(), RowList::kNoRow);
+  StoreWheel(test.session);
+  EXPECT_EQ(test.vars.Ides.At(0).Extra1, "77");
+  EXPECT_FALSE(test.vars.IsSaved);
+}
+
 }  // namespace
 }  // namespace wheelwright::testing

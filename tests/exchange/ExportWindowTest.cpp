@@ -172,6 +172,16 @@ TEST(ExportWindow, ItsCloseBoxUnloadsIt) {
   EXPECT_EQ(test.exporter.lst2.Rows(), Rows{});
 }
 
+TEST(ExportWindow, ClosedItHoldsNothingOnEitherSide) {
+  TestSession test;
+  OpenWindow(test);
+  test.exporter.lst1.MarkByHand({0});
+  test.exporter.cmdAdd.ClickByHand();
+  test.exporter.cmdClose.ClickByHand();
+  EXPECT_EQ(test.exporter.lst1.Rows(), Rows{});
+  EXPECT_EQ(test.exporter.lst2.Rows(), Rows{});
+}
+
 TEST(ExportWindow, StartsAnewAfterItWasClosed) {
   TestSession test;
   OpenWindow(test);

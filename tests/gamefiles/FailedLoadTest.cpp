@@ -156,6 +156,16 @@ TEST_F(FailedLoadTest, ADamagedFileResetsTheWindowAndNamesTheLine) {
   EXPECT_TRUE(test.main.SSTab2.IsVisible());
 }
 
+TEST_F(FailedLoadTest, ADamagedFileIsToldOfOnceTheWindowIsReset) {
+  test.OpenDefinition(
+      CrLf({"cars", "130, cab, cab, car, TAXI, TAXI, null, taxi, 10, 7, 0", "end"}));
+  test.desktop.shown.clear();
+  WatchEnabling(test, test.main.cmdSave);
+  test.OpenDefinition(CrLf({"cars", "90, bus", "end"}));
+  EXPECT_EQ(test.desktop.shown,
+            (Texts{"open", "hourglass", "normal", "cmdSave off", "error: E1502"}));
+}
+
 TEST_F(FailedLoadTest, OpeningAgainLeadsOutOfTheResetState) {
   test.OpenHandling(kNoVehicle);
   test.desktop.shown.clear();

@@ -205,5 +205,19 @@ TEST(HandlingLineTest, FillingARecordPutsTokenIIntoSlotIPlusOne) {
   EXPECT_EQ(TokensOf(car), tokens);
 }
 
+TEST(HandlingLineTest, APlaceThatIsNoFieldIsFailure9) {
+  TestSession test;
+  std::string line = VehicleLineOf("BUS") + " 7 8";
+  EXPECT_EQ(NumberThrownBy([&] { ParseHandlingToken(test.session, line, -1); }), 9);
+  EXPECT_EQ(NumberThrownBy([&] { ParseHandlingToken(test.session, line, 33); }), 9);
+  EXPECT_EQ(NumberThrownBy([&] { ParseHandlingToken(test.session, line, 34); }), 9);
+}
+
+TEST(HandlingLineTest, BlanksBehindTheEndOfALineAreNotItsOwn) {
+  const std::string_view text = "BUS  7 8  9";
+  EXPECT_EQ(HandlingTokens(text.substr(0, 4)).Count(), 1U);
+  EXPECT_EQ(HandlingTokens(text.substr(0, 6)).Count(), 2U);
+}
+
 }  // namespace
 }  // namespace wheelwright::testing

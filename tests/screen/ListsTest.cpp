@@ -285,5 +285,13 @@ TEST_F(ListsTest, AClearedListHasNoMarks) {
   EXPECT_EQ(marks.Marked(), std::vector<int>{});
 }
 
+TEST_F(ListsTest, AnUnsortedListOfMarksCanLoseARowThatWasNeverMarked) {
+  Counted<MarkList> unsorted{window};
+  unsorted.AddRows({"TAXI", "BUS", "VAN"});
+  unsorted.RemoveRow(2);
+  EXPECT_EQ(unsorted.Rows(), (Rows{"TAXI", "BUS"}));
+  EXPECT_EQ(unsorted.Marked(), std::vector<int>{});
+}
+
 }  // namespace
 }  // namespace wheelwright::testing

@@ -38,10 +38,15 @@ STEPS = {"write": write, "remove": remove, "mkdir": make_directory, "readonly": 
          "link": link}
 
 
+def in_json(text):
+    return json.dumps(text, ensure_ascii=False)[1:-1]
+
+
 class Folder:
-    def __init__(self, session, app):
+    def __init__(self, session, app, runner):
         self.session = session
         self.app = app
+        self.runner = runner
         self.path = None
 
     def __enter__(self):
@@ -63,18 +68,23 @@ class Folder:
         if not (self.path / "app").exists():
             shutil.copytree(self.app, self.path / "app", copy_function=shutil.copyfile)
         if (self.session / "prepare.json").exists():
-            for step in json.loads(self.named((self.session / "prepare.json").read_text("utf-8"))):
+            text = (self.session / "prepare.json").read_text("utf-8")
+            for step in json.loads(text.replace("@DIR@", in_json(str(self.path)))):
                 self.take(step)
 
     def take(self, step):
         STEPS[step[0]](self.path, *step[1:])
 
+    def name(self, path="."):
+        """What the replay calls a path in the folder."""
+        return self.runner.name_of(self.path / path)
+
     def named(self, text):
-        """A text of JSON with the folder's path in place of @DIR@."""
-        return text.replace("@DIR@", json.dumps(str(self.path), ensure_ascii=False)[1:-1])
+        """A text of JSON with the folder's name in place of @DIR@."""
+        return text.replace("@DIR@", in_json(self.name()))
 
     def unnamed(self, text):
-        return text.replace(json.dumps(str(self.path), ensure_ascii=False)[1:-1], "@DIR@")
+        return text.replace(in_json(self.name()), "@DIR@")
 
     def files(self):
         return files_below(self.path)

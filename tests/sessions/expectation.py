@@ -42,7 +42,7 @@ class Expectation:
         self.folder = folder
 
     def differences(self, outcome, before):
-        yield from compared(self.expected_lines(), [text_of(line) for line in outcome.lines],
+        yield from compared(self.expected_lines(), [self.text_of(line) for line in outcome.lines],
                             "result")
         if outcome.exit_code != self.exit_code():
             yield f"exit code {outcome.exit_code}, not {self.exit_code()}"
@@ -51,7 +51,10 @@ class Expectation:
 
     def expected_lines(self):
         text = self.folder.named((self.session / "result.jsonl").read_text(encoding="utf-8"))
-        return [text_of(json.loads(line)) for line in text.split("\n") if line.strip()]
+        return [self.text_of(json.loads(line)) for line in text.split("\n") if line.strip()]
+
+    def text_of(self, line):
+        return text_of(self.folder.runner.evened(line))
 
     def exit_code(self):
         file = self.session / "exit"

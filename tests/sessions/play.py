@@ -1,12 +1,13 @@
 #!/usr/bin/env python3
 """Plays the sessions of this folder and compares what comes out with what is written down.
 
-usage: play.py REPLAY [--plain | --widgets] [--accept] [NAME ...]
+usage: play.py REPLAY [--plain | --widgets] [--runner wine] [--accept] [NAME ...]
 
 REPLAY is the program wheelwright-replay. Without names all sessions are played; a name is that of a
 session ("language/full-table") or of a subject ("language"). Without a mode each session is played
 in both. --accept writes down what came out, for review, from the first mode that is played; it needs
-names, so that no session is accepted unseen.
+names, so that no session is accepted unseen. --runner wine plays a replay that was built for
+Windows; the separators in paths are then left out of the comparison.
 
 A session is a folder:
   script.jsonl   what is played
@@ -33,6 +34,7 @@ from concurrent.futures import ThreadPoolExecutor
 from disk import Folder
 from expectation import Expectation
 from replay import play
+from runner import RUNNERS
 
 SESSIONS = pathlib.Path(__file__).resolve().parent
 MODES = {"plain": ["--plain"], "widgets": []}
@@ -57,11 +59,11 @@ def title(session):
     return f"{session.parent.name}/{session.name}"
 
 
-def differences(program, session, mode, accept):
+def differences(program, runner, session, mode, accept):
     """Plays a session; what came out otherwise than expected, as lines of a report."""
-    with Folder(session, SESSIONS / "app") as folder:
+    with Folder(session, SESSIONS / "app", runner) as folder:
         before = folder.files()
-        outcome = play([program, *MODES[mode], "--app", str(folder.path / "app")],
+        outcome = play([*runner.command, program, *MODES[mode], "--app", folder.name("app")],
                        session / "script.jsonl", folder)
         expectation = Expectation(session, folder)
         if accept:
@@ -70,9 +72,9 @@ def differences(program, session, mode, accept):
         return list(expectation.differences(outcome, before))
 
 
-def report(program, session, mode, accept):
+def report(program, runner, session, mode, accept):
     try:
-        faults = differences(program, session, mode, accept)
+        faults = differences(program, runner, session, mode, accept)
     except Exception as error:  # one broken session must not hide the others
         faults = [f"{type(error).__name__}: {error}"]
     if faults:
@@ -85,6 +87,7 @@ def main():
     parser.add_argument("program")
     parser.add_argument("--plain", action="store_true")
     parser.add_argument("--widgets", action="store_true")
+    parser.add_argument("--runner", choices=RUNNERS, default="native")
     parser.add_argument("--accept", action="store_true")
     parser.add_argument("names", nargs="*")
     options = parser.parse_intermixed_args()
@@ -97,7 +100,9 @@ def main():
     sessions = sessions_named(options.names)
     if not sessions:
         sys.exit("there is no session")
-    plays = [(program, session, mode, options.accept) for session in sessions for mode in modes]
+    runner = RUNNERS[options.runner]
+    plays = [(program, runner, session, mode, options.accept)
+             for session in sessions for mode in modes]
     with ThreadPoolExecutor(JOBS) as pool:
         good = list(pool.map(lambda each: report(*each), plays))
     print(f"{good.count(True)} passed, {good.count(False)} failed")

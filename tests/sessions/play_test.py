@@ -12,6 +12,7 @@ import unittest
 import disk
 import play
 import replay
+import runner
 from expectation import Expectation
 
 PROGRAM = """
@@ -56,7 +57,7 @@ class Sessions(unittest.TestCase):
         self.write("result.jsonl", "".join(json.dumps(line) + "\n" for line in lines))
 
     def play(self, accept=False):
-        with disk.Folder(self.session, play.SESSIONS / "app") as folder:
+        with disk.Folder(self.session, play.SESSIONS / "app", runner.RUNNERS["native"]) as folder:
             before = folder.files()
             outcome = replay.play([sys.executable, "-c", PROGRAM], self.session / "script.jsonl",
                                   folder)
@@ -164,6 +165,29 @@ class Files(Sessions):
         self.assert_fine()
 
 
+class UnderWine(Sessions):
+    def play(self, accept=False):
+        wine = runner.Wine()
+        with disk.Folder(self.session, play.SESSIONS / "app", wine) as folder:
+            outcome = replay.play([sys.executable, "-c", PROGRAM], self.session / "script.jsonl",
+                                  folder)
+            return list(Expectation(self.session, folder).differences(outcome, folder.files()))
+
+    def test_the_folder_is_named_as_a_drive_of_windows(self):
+        with disk.Folder(self.session, play.SESSIONS / "app", runner.Wine()) as folder:
+            self.assertEqual("Z:" + str(folder.path / "app").replace("/", "\\"), folder.name("app"))
+
+    def test_separators_in_paths_are_left_out_of_the_comparison(self):
+        self.script({"say": {"a": ["@DIR@\\gfx\\BUS.bmp"], "b": "[@DIR@/c.txt]"}})
+        self.expect({"a": ["@DIR@/gfx/BUS.bmp"], "b": "[@DIR@/c.txt]"})
+        self.assert_fine()
+
+    def test_other_backslashes_count(self):
+        self.script({"say": {"a": "1\\2"}})
+        self.expect({"a": "1/2"})
+        self.assert_found("result expected")
+
+
 class Steps(Sessions):
     def test_steps_come_before_the_start(self):
         self.script({"read": "@DIR@/a/b.txt"}, {"read": "@DIR@/a/c.txt"})
@@ -171,7 +195,7 @@ class Steps(Sessions):
                                                ["link", "@DIR@/game.txt", "a/c.txt"],
                                                ["readonly", "a/b.txt"]]))
         self.write("before/game.txt", "linked")
-        with disk.Folder(self.session, play.SESSIONS / "app") as folder:
+        with disk.Folder(self.session, play.SESSIONS / "app", runner.RUNNERS["native"]) as folder:
             self.assertEqual(b"\xe9", (folder.path / "a/b.txt").read_bytes())
             self.assertEqual("linked", (folder.path / "a/c.txt").read_text())
             self.assertEqual(0o444, (folder.path / "a/b.txt").stat().st_mode & 0o777)

@@ -108,7 +108,7 @@ def object_of(line):
 
 def play(command, script, folder):
     text = folder.named(script.read_text(encoding="utf-8"))
-    environment = dict(os.environ, QT_QPA_PLATFORM="offscreen")
+    environment = dict(os.environ, **folder.runner.environment)
     with tempfile.TemporaryFile() as complaints:
         with subprocess.Popen(command, stdin=subprocess.PIPE, stdout=subprocess.PIPE,
                               stderr=complaints, env=environment) as process:

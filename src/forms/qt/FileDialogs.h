@@ -1,4 +1,4 @@
-// The common file dialog as Qt's.
+// The common file dialog: on Windows its own, elsewhere Qt's.
 #pragma once
 
 #include "screen/Desktop.h"
@@ -9,7 +9,8 @@
 
 namespace wheelwright {
 
-// "label|patterns|label|patterns|..." as Qt's name filters; a label without patterns is left out.
+// "label|patterns|label|patterns|..." as Qt's name filters; a label without patterns is left out. Not
+// there on Windows.
 QStringList NameFilters(const std::string& filter);
 
 // Shows the dialog and puts the choice into it; starts in the directory given if no file is preset.

@@ -3,10 +3,9 @@
 #include "forms/qt/FileDialogs.h"
 #include "forms/qt/PictureFile.h"
 #include "forms/qt/QtText.h"
+#include "forms/qt/Shell.h"
 
 #include <QApplication>
-#include <QDesktopServices>
-#include <QUrl>
 
 namespace wheelwright {
 namespace {
@@ -54,7 +53,7 @@ void QtDesktop::SetPointer(Pointer pointer) {
 }
 
 void QtDesktop::OpenWithShell(const std::string& file) {
-  QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(file)));
+  OpenInShell(QString::fromStdString(file));
 }
 
 std::optional<PictureSize> QtDesktop::SizeOfPicture(const std::string& file) {

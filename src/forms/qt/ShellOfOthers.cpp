@@ -1,0 +1,10 @@
+#include "forms/qt/Shell.h"
+
+#include <QDesktopServices>
+#include <QUrl>
+
+namespace wheelwright {
+
+void OpenInShell(const QString& file) { QDesktopServices::openUrl(QUrl::fromLocalFile(file)); }
+
+}  // namespace wheelwright
