@@ -9,8 +9,8 @@
 
 namespace wheelwright {
 
-// "label|patterns|label|patterns|..." as Qt's name filters; a label without patterns is left out. Not
-// there on Windows.
+// "label|patterns|label|patterns|..." as Qt's name filters; a label without patterns is left out.
+// Not there on Windows.
 QStringList NameFilters(const std::string& filter);
 
 // Shows the dialog and puts the choice into it; starts in the directory given if no file is preset.

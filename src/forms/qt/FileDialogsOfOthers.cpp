@@ -1,6 +1,5 @@
-#include "forms/qt/FileDialogs.h"
-
 #include "core/Failure.h"
+#include "forms/qt/FileDialogs.h"
 
 #include <QApplication>
 #include <QDir>
