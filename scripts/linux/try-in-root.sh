@@ -3,36 +3,19 @@
 #
 # usage: try-in-root.sh BASE DEB ARCHIVE PICTURES
 set -euo pipefail
+source scripts/display.sh
 base=$1 deb=$2 archive=$3 pictures=$4
 
 TITLE='GTAViceCity PC-Version - Wheelwright'
 HOME_INSIDE=/home/tester
 TESTER=1000
-PATIENCE=20 # seconds
 
 root=$(mktemp -d)
-screen=
 
 end() {
-  if [ -n "$screen" ]; then kill "$screen"; fi
+  stop_display
   umount "$root/proc" "$root/dev"
   rm -rf --one-file-system "$root"
-}
-
-fail() {
-  import -window root "$pictures/failed.png"
-  echo "$1 The screen of that moment is $pictures/failed.png" >&2
-  exit 1
-}
-
-# Waits until the command succeeds.
-await() {
-  local what=$1 end=$((SECONDS + PATIENCE))
-  shift
-  until "$@" >/dev/null 2>&1; do
-    [ $SECONDS -lt $end ] || fail "$what didn't come."
-    sleep 0.1
-  done
 }
 
 unpack_root() {
@@ -40,14 +23,6 @@ unpack_root() {
   tar --extract --file "$base" --directory "$root"
   mount --bind /proc "$root/proc"
   mount --bind /dev "$root/dev"
-}
-
-start_screen() {
-  Xvfb -displayfd 3 -ac -nolisten tcp -screen 0 1280x1000x24 3>"$root/tmp/display" 2>/dev/null &
-  screen=$!
-  while [ ! -s "$root/tmp/display" ]; do sleep 0.1; done
-  export DISPLAY
-  DISPLAY=:$(cat "$root/tmp/display")
 }
 
 inside() {
@@ -81,15 +56,6 @@ start_program() {
   program=$!
 }
 
-# Gives the keys to the window of that title, once it is there.
-keys_to() {
-  local title=$1 window
-  shift
-  await "The window \"$title\"" xdotool search --onlyvisible --name "^$title\$"
-  window=$(xdotool search --onlyvisible --name "^$title\$" | tail -n 1)
-  xdotool windowfocus --sync "$window" "$@"
-}
-
 edit_by_keyboard() {
   local name=$1
   local opened="$TITLE \\[$HOME_INSIDE/handling.cfg\\]"
@@ -100,7 +66,7 @@ edit_by_keyboard() {
   xdotool key ctrl+a type --delay 20 1234.5
   xdotool key ctrl+s
   await "The changed mass" grep -q '1234\.5' "$root$HOME_INSIDE/handling.cfg"
-  import -window root "$pictures/$name.png"
+  picture "$name"
   keys_to Wheelwright key Return
   keys_to "$opened" key F1
   await "The manual" test -s "$root$HOME_INSIDE/shown"
@@ -144,7 +110,7 @@ try_archive() {
 
 trap end EXIT
 unpack_root
-start_screen
+use_display "$pictures"
 rm -f "$pictures"/*.png
 try_deb
 try_archive

@@ -1,6 +1,7 @@
-# Sourced by try: a display of its own, and a person at it.
+# Sourced by the scripts that try a package: a display of its own, and a person at it.
 
-PATIENCE=60 # seconds; the first program under a fresh wine takes a while
+PATIENCE=60 # seconds; the first program on a fresh system takes a while
+SCREEN=
 
 # Starts a display that ends with the script; PICTURES is the folder for what was seen.
 use_display() {
@@ -16,7 +17,7 @@ use_display() {
 }
 
 stop_display() {
-  kill "$SCREEN"
+  [ -z "$SCREEN" ] || kill "$SCREEN"
 }
 
 picture() {
