@@ -55,8 +55,6 @@ void LoadPalette(Session& session, std::string_view text) {
 
 // Half a pair reaches the conversion of a field that isn't there, which fails.
 void TakePairs(CommaLine& line, CarColorEntry& entry) {
-  entry.Color1.assign(1, 0);
-  entry.Color2.assign(1, 0);
   const int count = line.Count();
   for (int i = 0; i <= count - 2; i += 2) {
     const auto pair = static_cast<std::size_t>(i / 2);

@@ -29,6 +29,15 @@ TEST(ExportWindow, ComesUpWithEveryVehicleOnTheLeft) {
   EXPECT_EQ(test.exporter.lst2.Rows(), Rows{});
 }
 
+TEST(ExportWindow, IsFilledBeforeItComesUp) {
+  TestSession test;
+  test.OpenHandling(kFourVehicles);
+  int rows = 0;
+  test.exporter.notice = [&] { rows = test.exporter.lst1.Count(); };
+  test.main.cmdExportCar.ClickByHand();
+  EXPECT_EQ(rows, 4);
+}
+
 TEST(ExportWindow, ComesUpEmptyWithoutAFile) {
   TestSession test;
   test.main.cmdExportCar.ClickByHand();
