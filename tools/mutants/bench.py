@@ -44,6 +44,27 @@ def run(command, environment, limit=None):
     return Outcome(ended and process.returncode == 0, ended, output.decode("utf-8", "replace"))
 
 
+def files_in(tree):
+    """All files, and all links as such, without what was built."""
+    for folder, folders, names in os.walk(tree):
+        links = [name for name in folders if os.path.islink(os.path.join(folder, name))]
+        folders[:] = [name for name in folders if not SKIPPED.match(name)]
+        for name in names + links:
+            yield pathlib.Path(folder, name)
+
+
+def bring(source, copy):
+    """Copies a file or a link, unless the copy is equal already."""
+    if source.is_symlink():
+        if copy.is_symlink() and copy.readlink() == source.readlink():
+            return
+        copy.unlink(missing_ok=True)
+    elif copy.is_file() and copy.read_bytes() == source.read_bytes():
+        return
+    copy.parent.mkdir(parents=True, exist_ok=True)
+    shutil.copy(source, copy, follow_symlinks=False)
+
+
 class Bench:
     def __init__(self, root, folder):
         self.root = root
@@ -56,22 +77,13 @@ class Bench:
 
     def refresh(self):
         """Makes the copy equal to the tree; what hasn't changed keeps its time."""
-        wanted = set()
-        for folder, folders, names in os.walk(self.root):
-            folders[:] = [name for name in folders if not SKIPPED.match(name)]
-            for name in names:
-                file = pathlib.Path(folder, name)
-                wanted.add(file.relative_to(self.root))
-        for name in sorted(wanted):
-            source, copy = self.root / name, self.tree / name
-            if not copy.exists() or copy.read_bytes() != source.read_bytes():
-                copy.parent.mkdir(parents=True, exist_ok=True)
-                shutil.copy(source, copy)
+        wanted = {file.relative_to(self.root) for file in files_in(self.root)}
         for part in ("src", "tests", "tools"):
-            for copy in (self.tree / part).rglob("*"):
-                if copy.is_file() and "__pycache__" not in copy.parts \
-                        and copy.relative_to(self.tree) not in wanted:
+            for copy in files_in(self.tree / part):
+                if copy.relative_to(self.tree) not in wanted:
                     copy.unlink()
+        for name in sorted(wanted):
+            bring(self.root / name, self.tree / name)
 
     def compile(self, *targets):
         done = subprocess.run(
