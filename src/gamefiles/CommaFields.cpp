@@ -9,6 +9,9 @@
 namespace wheelwright {
 namespace {
 
+// More than a count that fits can have, even after every field has taken a comma away.
+constexpr std::size_t kMostCommas = 65536;
+
 void RemoveBlanksAndTabs(std::string& line) {
   std::erase_if(line, [](char byte) { return byte == ' ' || byte == '\t'; });
 }
@@ -40,8 +43,9 @@ std::int16_t CountCommaFields(std::string& line) {
 CommaLine::CommaLine(std::string_view line) : cleaned_(line) {
   RemoveBlanksAndTabs(cleaned_);
   length_ = cleaned_.size();
-  commas_.reserve(static_cast<std::size_t>(std::count(cleaned_.begin(), cleaned_.end(), ',')));
-  for (std::size_t at = cleaned_.find(','); at != std::string::npos;
+  const auto commas = static_cast<std::size_t>(std::count(cleaned_.begin(), cleaned_.end(), ','));
+  commas_.reserve(std::min(commas, kMostCommas));
+  for (std::size_t at = cleaned_.find(','); at != std::string::npos && commas_.size() < kMostCommas;
        at = cleaned_.find(',', at + 1)) {
     commas_.push_back(at);
   }

@@ -172,6 +172,13 @@ TEST(CommaLine, CountsAsFarAsSixteenBitsGo) {
   EXPECT_EQ(NumberThrownBy([&] { tooLong.Count(); }), kOverflow);
 }
 
+TEST(CommaLine, FailsAtAnyNumberOfFieldsBeyondThat) {
+  CommaLine line("a,b," + std::string(200'000, ','));
+  EXPECT_EQ(NumberThrownBy([&] { line.Count(); }), kOverflow);
+  EXPECT_EQ(line.Field(1), "b");
+  EXPECT_EQ(NumberThrownBy([&] { line.Count(); }), kOverflow);
+}
+
 // A step on a line: -2 counts, everything else takes the field of that index.
 constexpr int kCount = -2;
 

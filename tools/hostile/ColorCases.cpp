@@ -96,7 +96,7 @@ std::vector<Case> ColorCases() {
        "normal, 1 names, 1 records, 0 problems; information: E116, 1 names, 1 records, 0 problems",
        750},
       {"vehicle with 100 million numbers", LongPairs, OpenColors,
-       "error: Error: 6 - Overflow, 0 names, 0 records, 0 problems", 1800},
+       "error: Error: 6 - Overflow, 0 names, 0 records, 0 problems", 500},
       {"32,762 colours and 16,000 pairs", ManyColors, SaveColors,
        "normal, 1 names, 1 records, 0 problems; information: E116, 1 names, 1 records, 0 problems",
        50},
