@@ -55,16 +55,4 @@ int CompareIgnoringCase(std::string_view left, std::string_view right) {
   return left.size() < right.size() ? -1 : 1;
 }
 
-std::string PaddedBehind(std::string_view text, std::size_t width) {
-  std::string padded(text);
-  if (padded.size() < width) padded.append(width - padded.size(), ' ');
-  return padded;
-}
-
-std::string PaddedInFront(std::string_view text, std::size_t width) {
-  std::string padded;
-  if (text.size() < width) padded.append(width - text.size(), ' ');
-  return padded.append(text);
-}
-
 }  // namespace wheelwright

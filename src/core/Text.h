@@ -32,8 +32,4 @@ bool EqualsIgnoringCase(std::string_view left, std::string_view right);
 // before its continuations. Negative, zero or positive as left stands before, with or behind right.
 int CompareIgnoringCase(std::string_view left, std::string_view right);
 
-// The text filled with blanks up to the width; a longer text stays whole.
-std::string PaddedBehind(std::string_view text, std::size_t width);
-std::string PaddedInFront(std::string_view text, std::size_t width);
-
 }  // namespace wheelwright

@@ -81,17 +81,6 @@ TEST(TextTest, AShorterTextStandsBeforeItsContinuations) {
   EXPECT_LT(CompareIgnoringCase("a", std::string("a\0", 2)), 0);
 }
 
-TEST(TextTest, PaddingOnlyAdds) {
-  EXPECT_EQ(PaddedBehind("BUS", 5), "BUS  ");
-  EXPECT_EQ(PaddedBehind("BUSES", 5), "BUSES");
-  EXPECT_EQ(PaddedBehind("COACHES", 5), "COACHES");
-  EXPECT_EQ(PaddedBehind("", 2), "  ");
-  EXPECT_EQ(PaddedInFront("1.0", 5), "  1.0");
-  EXPECT_EQ(PaddedInFront("123.5", 5), "123.5");
-  EXPECT_EQ(PaddedInFront("1234.5", 5), "1234.5");
-  EXPECT_EQ(PaddedInFront("", 2), "  ");
-}
-
 RC_GTEST_PROP(TextLaw, TheOrderIsThatOfTheFoldedBytes, ()) {
   const std::string left = *FewLetters();
   const std::string right = *FewLetters();

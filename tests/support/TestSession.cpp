@@ -5,6 +5,8 @@
 #include "language/ApplyLanguage.h"
 
 #include <gtest/gtest.h>
+#include <iomanip>
+#include <sstream>
 
 namespace wheelwright::testing {
 
@@ -27,10 +29,11 @@ std::string LangText(int entry) {
 }
 
 std::string VehicleLineOf(const std::string& name, const std::string& mass) {
-  return PaddedBehind(name, 14) + " " + PaddedInFront(mass, 7) +
-         " 1.9 4.6 1.5 0.0 0.1 -0.2 80 0.70 0.75 0.51 5 160.0 20.0 R P 6.1 0.60 0 35.0 1.6 0.08 "
-         "0.20 "
-         "0.50   9000 0.35 -0.16 0.5 0.3 0000003 0 1";
+  std::ostringstream line;
+  line << std::left << std::setw(14) << name << ' ' << std::right << std::setw(7) << mass
+       << " 1.9 4.6 1.5 0.0 0.1 -0.2 80 0.70 0.75 0.51 5 160.0 20.0 R P 6.1 0.60 0 35.0 1.6 0.08 "
+          "0.20 0.50   9000 0.35 -0.16 0.5 0.3 0000003 0 1";
+  return line.str();
 }
 
 TestSession::TestSession() {
