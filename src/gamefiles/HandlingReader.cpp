@@ -106,7 +106,6 @@ void LoadHandlingFile(Session& session) {
   const std::string text = session.files.Read(session.vars.CurrentFile);
   ListVehicles(session, text);
   ClearLoadProblems(session);
-  Checked16(session.main.cmbAutos.Count());
   RecordPass records(session);
   for (const std::string_view line : Lines(text)) records.Take(line);
   session.vars.Cars = session.vars.Kopie_Cars;

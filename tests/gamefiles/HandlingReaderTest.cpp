@@ -268,13 +268,17 @@ TEST_F(HandlingReaderTest, TheGreatestNumberOfVehiclesIsRead) {
 
 TEST_F(HandlingReaderTest, OneVehicleMoreIsAnOverflow) {
   EXPECT_EQ(FailureOf(LinesOfVehicles(32768)), 6);
+  EXPECT_EQ(test.vars.Kopie_Cars.Count(), 32768);
   EXPECT_FALSE(test.vars.Cars.IsAllocated());
 }
 
-TEST_F(HandlingReaderTest, AListThatIsLongerIsAnOverflowEvenWithoutRecords) {
+TEST_F(HandlingReaderTest, AListMayBeLongerThanTheRecordsCanBeCounted) {
   std::string text;
   for (int i = 0; i < 32768; ++i) text += "  V1 1500.0 2.6\r\n";
-  EXPECT_EQ(FailureOf(text), 6);
+  Read(text + "V2            1500.0 2.6\r\n");
+  EXPECT_EQ(test.main.cmbAutos.Count(), 32769);
+  EXPECT_EQ(test.vars.Cars.Count(), 1);
+  EXPECT_EQ(test.vars.Cars.At(0).CarName, "V2");
 }
 
 TEST_F(HandlingReaderTest, TheStepPastTheGreatestCountOfRecordsIsAnOverflow) {
