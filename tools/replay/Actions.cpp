@@ -116,7 +116,12 @@ void Actions::Scroll(const ScriptLine& line) {
   hands->Scroll(bar, std::clamp(line.Whole("value"), ScrollBar::kMinimum, ScrollBar::kMaximum));
 }
 
+// Where several rows may be marked, a click marks one alone.
 void Actions::ClickRow(const ScriptLine& line) {
+  if (dynamic_cast<MarkList*>(FindControl(stage_.session, line.Text("row"))) != nullptr) {
+    MarkRows(line, "row", {line.Whole("to")});
+    return;
+  }
   auto& list = Named<ListBox>(line, "row");
   Hands* hands = HandsAt(list, line);
   if (hands == nullptr) return;
@@ -125,10 +130,13 @@ void Actions::ClickRow(const ScriptLine& line) {
 }
 
 void Actions::Mark(const ScriptLine& line) {
-  auto& list = Named<MarkList>(line, "mark");
+  MarkRows(line, "mark", line.Value("rows").get<std::vector<int>>());
+}
+
+void Actions::MarkRows(const ScriptLine& line, const char* verb, const std::vector<int>& rows) {
+  auto& list = Named<MarkList>(line, verb);
   Hands* hands = HandsAt(list, line);
   if (hands == nullptr) return;
-  const auto rows = line.Value("rows").get<std::vector<int>>();
   for (const int row : rows) CheckRow(row, list.Rows().size());
   hands->Mark(list, rows);
 }

@@ -29,6 +29,8 @@ class Actions {
   void Scroll(const ScriptLine& line);
   void ClickRow(const ScriptLine& line);
   void Mark(const ScriptLine& line);
+  // Marks exactly these rows of the list that the verb names.
+  void MarkRows(const ScriptLine& line, const char* verb, const std::vector<int>& rows);
   void ClickTab(const ScriptLine& line);
   void Close(const ScriptLine& line);
 

@@ -30,24 +30,59 @@ Size SizeIfPlausible(std::int64_t width, std::int64_t height) {
   return PictureSize{static_cast<int>(width), static_cast<int>(height)};
 }
 
-// The parts of a BMP file's two headers, by their place in the file.
 constexpr std::size_t kFileHeader = 14;
-constexpr std::size_t kInfoSize = 14;
-constexpr std::size_t kWidth = 18;
-constexpr std::size_t kHeight = 22;
-constexpr std::size_t kPlanes = 26;
-constexpr std::size_t kBits = 28;
-constexpr std::size_t kCompression = 30;
-constexpr std::size_t kColorsUsed = 46;
-constexpr std::size_t kShortestInfo = 40;
 
 constexpr std::uint32_t kUncompressed = 0;
 constexpr std::uint32_t kRunLength8 = 1;
 constexpr std::uint32_t kRunLength4 = 2;
 constexpr std::uint32_t kBitFields = 3;
 
-bool IsInfoSize(std::size_t info) {
-  return info == kShortestInfo || info == 64 || info == 108 || info == 124;
+// What a BMP file says of its picture behind the file header.
+struct BmpInfo {
+  std::size_t length;
+  // A negative height tells that the rows run from the top.
+  std::int64_t width;
+  std::int64_t height;
+  std::uint32_t planes;
+  std::uint32_t bits;
+  std::uint32_t compression;
+  std::size_t colorsUsed;
+  std::size_t bytesPerColor;
+};
+
+BmpInfo InfoOf(std::string_view file, std::size_t length) {
+  return {length,
+          static_cast<std::int32_t>(LittleEndian(file, 18, 4)),
+          static_cast<std::int32_t>(LittleEndian(file, 22, 4)),
+          LittleEndian(file, 26, 2),
+          LittleEndian(file, 28, 2),
+          LittleEndian(file, 30, 4),
+          LittleEndian(file, 46, 4),
+          4};
+}
+
+// The oldest files know no compression and have three bytes for a colour.
+BmpInfo OldInfoOf(std::string_view file, std::size_t length) {
+  return {length,
+          static_cast<std::int16_t>(LittleEndian(file, 18, 2)),
+          static_cast<std::int16_t>(LittleEndian(file, 20, 2)),
+          LittleEndian(file, 22, 2),
+          LittleEndian(file, 24, 2),
+          kUncompressed,
+          0,
+          3};
+}
+
+std::optional<BmpInfo> InfoOf(std::string_view file) {
+  constexpr std::size_t kLength = 14;
+  constexpr std::size_t kOldLength = 12;
+  constexpr std::size_t kShortest = 40;
+  if (file.size() < kFileHeader + kOldLength) return {};
+  const std::size_t length = LittleEndian(file, kLength, 4);
+  if (length == kOldLength) return OldInfoOf(file, length);
+  const bool isNew = length == kShortest || length == 64 || length == 108 || length == 124;
+  if (!isNew || file.size() < kFileHeader + kShortest) return {};
+  return InfoOf(file, length);
 }
 
 bool IsBitDepth(std::uint32_t bits) {
@@ -62,37 +97,28 @@ bool FitsBitDepth(std::uint32_t compression, std::uint32_t bits) {
 
 // The length of what stands between the headers and the pixels: a colour table or bit masks.
 // Nothing for a table that can't be.
-std::optional<std::size_t> LengthBeforePixels(std::string_view file, std::size_t info) {
-  const std::uint32_t bits = LittleEndian(file, kBits, 2);
-  if (bits > 8) {
+std::optional<std::size_t> LengthBeforePixels(const BmpInfo& info) {
+  if (info.bits > 8) {
     constexpr std::size_t kMasks = 12;
-    const bool hasMasks = LittleEndian(file, kCompression, 4) == kBitFields && info < 108;
-    return hasMasks ? kMasks : 0;
+    return info.compression == kBitFields && info.length < 108 ? kMasks : 0;
   }
-  const std::uint32_t used = LittleEndian(file, kColorsUsed, 4);
-  const std::size_t colors = used != 0 ? used : std::size_t{1} << bits;
+  const std::size_t colors = info.colorsUsed != 0 ? info.colorsUsed : std::size_t{1} << info.bits;
   if (colors > 256) return std::nullopt;
-  constexpr std::size_t kPerColor = 4;
-  return colors * kPerColor;
+  return colors * info.bytesPerColor;
 }
 
 // Missing rows show black; a picture without any byte of pixels is none.
-bool HoldsPixels(std::string_view file, std::size_t info) {
-  const std::optional<std::size_t> length = LengthBeforePixels(file, info);
-  return length && file.size() > kFileHeader + info + *length;
+bool HoldsPixels(std::string_view file, const BmpInfo& info) {
+  const std::optional<std::size_t> before = LengthBeforePixels(info);
+  return before && file.size() > kFileHeader + info.length + *before;
 }
 
-// A negative height tells that the rows run from the top.
 Size SizeOfBmp(std::string_view file) {
-  if (file.size() < kFileHeader + kShortestInfo) return {};
-  const std::size_t info = LittleEndian(file, kInfoSize, 4);
-  const std::uint32_t bits = LittleEndian(file, kBits, 2);
-  if (!IsInfoSize(info) || LittleEndian(file, kPlanes, 2) != 1) return {};
-  if (!IsBitDepth(bits) || !FitsBitDepth(LittleEndian(file, kCompression, 4), bits)) return {};
-  if (!HoldsPixels(file, info)) return {};
-  const auto width = static_cast<std::int32_t>(LittleEndian(file, kWidth, 4));
-  const auto height = static_cast<std::int32_t>(LittleEndian(file, kHeight, 4));
-  return SizeIfPlausible(width, std::abs(static_cast<std::int64_t>(height)));
+  const std::optional<BmpInfo> info = InfoOf(file);
+  if (!info || info->planes != 1) return {};
+  if (!IsBitDepth(info->bits) || !FitsBitDepth(info->compression, info->bits)) return {};
+  if (!HoldsPixels(file, *info)) return {};
+  return SizeIfPlausible(info->width, std::abs(info->height));
 }
 
 // The markers of a JPEG file that matter here.

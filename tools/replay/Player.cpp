@@ -48,7 +48,6 @@ void Player::PlayLine(const std::string& text) {
   if (const auto* action = Actions::Find(line)) return Act(*action, line);
   const auto* question = Questions::Find(line);
   if (question == nullptr) throw ScriptError("nothing that can be played");
-  CheckStarted();
   (questions_.*question->play)(line);
 }
 
@@ -82,7 +81,7 @@ void Player::TellClock(const ScriptLine& /*line*/) {
 }
 
 void Player::Act(const Verb<Actions>& action, const ScriptLine& line) {
-  CheckStarted();
+  if (!started_) throw ScriptError("the session hasn't been started");
   (actions_.*action.play)(line);
   FinishEvent();
 }
@@ -91,10 +90,6 @@ void Player::FinishEvent() {
   stage_.edge.RethrowKept();
   if (stage_.desktop.EndWasAsked() && !stage_.edge.HasFailed())
     stage_.lines.Print({{"end", "quit"}});
-}
-
-void Player::CheckStarted() const {
-  if (!started_) throw ScriptError("the session hasn't been started");
 }
 
 }  // namespace wheelwright::replay

@@ -44,7 +44,6 @@ class Player {
 
   void Act(const Verb<Actions>& action, const ScriptLine& line);
   void FinishEvent();
-  void CheckStarted() const;
 
   Stage& stage_;
   Actions actions_;
