@@ -65,7 +65,7 @@ Install the like of it, then say WHEELWRIGHT_HAVE_PACKAGES=1 ${0}
 END
     return 1
   fi
-  for package in $(packages_for "$@"); do
+  for package in $(packages_for "$@" | tr " " "\n" | sort -u); do
     is_installed "$package" || missing+=("$package")
   done
   if [ ${#missing[@]} -eq 0 ]; then return 0; fi
