@@ -11,8 +11,8 @@ import pathlib
 import re
 import sys
 
-LAYERS = ["core", "screen", "gamefiles", "editor", "catalogue", "exchange", "language", "forms",
-          "forms/qt"]
+LAYERS = ["core", "core/posix", "core/windows", "screen", "gamefiles", "editor", "catalogue",
+          "exchange", "language", "forms", "forms/qt"]
 TOOLKIT_FOLDERS = ["src/forms/qt", "src/main.cpp", "tools", "tests/forms/qt"]
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')

@@ -25,7 +25,8 @@ NOT_COMPILED = "doesn't compile"
 
 def logic_sources(bench):
     """Sources that this system compiles, and all headers."""
-    compiled = [file for file in bench.compiled_files() if file.match("src/*/*.cpp")]
+    compiled = [file for file in bench.compiled_files()
+                if file.match("src/*/*.cpp") or file.match("src/core/*/*.cpp")]
     headers = [file.relative_to(bench.tree) for file in bench.tree.glob("src/*/*.h")]
     return sorted(str(file) for file in [*compiled, *headers])
 

@@ -1,7 +1,7 @@
 // The common file dialog of Windows itself, to which the flags are known under the same numbers.
 // The toolkit's way to it would put the filter's ending behind every name that lacks it.
 #include "core/Failure.h"
-#include "core/WindowsText.h"
+#include "core/windows/Text.h"
 #include "forms/qt/FileDialogs.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
-#include "core/WindowsCodePage.h"
+#include "core/windows/CodePage.h"
 
 #include "core/Utf8.h"
-#include "core/WindowsText.h"
+#include "core/windows/Text.h"
 
 #include <windows.h>
 

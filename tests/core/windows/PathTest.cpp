@@ -1,4 +1,4 @@
-#include "core/WindowsPath.h"
+#include "core/windows/Path.h"
 
 #include <gtest/gtest.h>
 #include <string>

@@ -1,8 +1,8 @@
 // The disk on Windows.
 #include "core/DiskFiles.h"
-#include "core/WindowsFailures.h"
-#include "core/WindowsPath.h"
-#include "core/WindowsText.h"
+#include "core/windows/Failures.h"
+#include "core/windows/Path.h"
+#include "core/windows/Text.h"
 
 #include <algorithm>
 #include <memory>

@@ -1,4 +1,4 @@
-#include "core/WindowsText.h"
+#include "core/windows/Text.h"
 
 #include <windows.h>
 

@@ -1,4 +1,4 @@
-#include "core/WindowsFailures.h"
+#include "core/windows/Failures.h"
 
 #include <algorithm>
 #include <array>

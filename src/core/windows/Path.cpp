@@ -1,6 +1,6 @@
-#include "core/WindowsPath.h"
+#include "core/windows/Path.h"
 
-#include "core/WindowsText.h"
+#include "core/windows/Text.h"
 
 #include <windows.h>
 
