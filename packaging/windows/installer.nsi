@@ -1,6 +1,6 @@
-; The installer: for one user, without an administrator. It takes the files of the folder STAGE, whose
-; names stand in FILES as lists to install and to remove; what else lies in the folder stays at the end.
-;   makensis -DVERSION=... -DSTAGE=... -DFILES=... -DICON=... -DOUTPUT=... installer.nsi
+; The installer: for one user, without an administrator. It takes the files that FILES lists, once to
+; install and once to remove; what else lies in their folder stays when they are removed.
+;   makensis -DVERSION=... -DFILES=... -DICON=... -DOUTPUT=... installer.nsi
 Target amd64-unicode
 ManifestDPIAware true
 ManifestSupportedOS Win10

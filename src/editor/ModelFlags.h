@@ -1,8 +1,7 @@
 // Seven hexadecimal digits and 28 check boxes. Each digit is handled by itself; no number is
 // computed.
 //
-//   0000803 ticks 1G_BOOST and 2G_BOOST (digit 7, group 1) and NONPLAYER_STABILISER (digit 5, group
-//   3)
+//   0000803   ticks 1G_BOOST and 2G_BOOST, by the last digit, and NONPLAYER_STABILISER
 #pragma once
 
 #include "screen/Session.h"

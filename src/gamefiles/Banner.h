@@ -1,4 +1,4 @@
-// The two lines on top of every file that the program writes.
+// The two lines on top of every game file and export file that the program writes.
 #pragma once
 
 #include "core/Version.h"

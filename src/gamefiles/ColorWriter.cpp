@@ -31,7 +31,7 @@ std::string PairsLine(const CarColorEntry& entry) {
   return line;
 }
 
-// A colour deleted in the middle of a deletion bears a negative number; it isn't written.
+// A deletion that failed half-way leaves a colour with a negative number; it isn't written.
 void AddPalette(std::string& out, const Table<ColorEntry>& colors) {
   for (const ColorEntry& color : colors.Walk()) {
     if (color.Index >= 0) AddLine(out, PaletteLine(color));

@@ -1,6 +1,6 @@
 // How a vehicle is written, in a handling file and in an export file alike.
 //
-//   TAXI           1450.0 1.9 4.5 1.5 ...  12000 ... 0000003 0 1
+//   TAXI            1450.0 1.9 4.5 1.5 ...  12000 ... 0000003 0 1
 #pragma once
 
 #include "core/Records.h"
