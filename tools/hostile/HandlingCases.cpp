@@ -48,6 +48,12 @@ void ManyNames(const std::string& folder) {
   for (int i = 0; i < kMostRecords; ++i) file.Add(Line(NameOfNumber(i)));
 }
 
+// An indented line is a row of the list, and begins with no name.
+void ManyRowsWithoutRecords(const std::string& folder) {
+  LargeFile file = Handling(folder);
+  for (int i = 0; i < 1'000'000; ++i) file.Add(" " + NameOfNumber(i) + " 1500.0 1.9\r\n");
+}
+
 void ManyMarkedNames(const std::string& folder) {
   std::string names;
   LargeFile file = Handling(folder);
@@ -120,6 +126,8 @@ std::vector<Case> HandlingCases() {
        "normal, 32767 names, 32767 records, 0 problems; information: E116, 32767 names, 32767 "
        "records, 0 problems",
        100},
+      {"1,000,000 rows without records", ManyRowsWithoutRecords, OpenHandling,
+       "normal, 1000000 names, 1 records, 0 problems", 200},
       {"32,767 names, all in marked 200 MB", ManyMarkedNames, OpenHandling,
        "normal, 32767 names, 32767 records, 0 problems", 550},
       {"32,767 names that begin others", NamesInNames, OpenHandling,
