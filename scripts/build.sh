@@ -1,4 +1,5 @@
-# Sourced by run, test and the scripts that build: building a preset, and the links under which its programs are found.
+# Sourced by run, test and the scripts that build: building a preset, and the links under which its
+# programs are found.
 
 # Builds the targets of a preset that is configured, everything if none is named. Shows its progress to
 # a person only; what fails is always shown.

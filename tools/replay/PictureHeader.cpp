@@ -50,27 +50,27 @@ struct BmpInfo {
   std::size_t bytesPerColor;
 };
 
-BmpInfo InfoOf(std::string_view file, std::size_t length) {
-  return {length,
-          static_cast<std::int32_t>(LittleEndian(file, 18, 4)),
-          static_cast<std::int32_t>(LittleEndian(file, 22, 4)),
-          LittleEndian(file, 26, 2),
-          LittleEndian(file, 28, 2),
-          LittleEndian(file, 30, 4),
-          LittleEndian(file, 46, 4),
-          4};
+BmpInfo NewInfoOf(std::string_view file, std::size_t length) {
+  return {.length = length,
+          .width = static_cast<std::int32_t>(LittleEndian(file, 18, 4)),
+          .height = static_cast<std::int32_t>(LittleEndian(file, 22, 4)),
+          .planes = LittleEndian(file, 26, 2),
+          .bits = LittleEndian(file, 28, 2),
+          .compression = LittleEndian(file, 30, 4),
+          .colorsUsed = LittleEndian(file, 46, 4),
+          .bytesPerColor = 4};
 }
 
 // The oldest files know no compression and have three bytes for a colour.
 BmpInfo OldInfoOf(std::string_view file, std::size_t length) {
-  return {length,
-          static_cast<std::int16_t>(LittleEndian(file, 18, 2)),
-          static_cast<std::int16_t>(LittleEndian(file, 20, 2)),
-          LittleEndian(file, 22, 2),
-          LittleEndian(file, 24, 2),
-          kUncompressed,
-          0,
-          3};
+  return {.length = length,
+          .width = static_cast<std::int16_t>(LittleEndian(file, 18, 2)),
+          .height = static_cast<std::int16_t>(LittleEndian(file, 20, 2)),
+          .planes = LittleEndian(file, 22, 2),
+          .bits = LittleEndian(file, 24, 2),
+          .compression = kUncompressed,
+          .colorsUsed = 0,
+          .bytesPerColor = 3};
 }
 
 std::optional<BmpInfo> InfoOf(std::string_view file) {
@@ -82,7 +82,7 @@ std::optional<BmpInfo> InfoOf(std::string_view file) {
   if (length == kOldLength) return OldInfoOf(file, length);
   const bool isNew = length == kShortest || length == 64 || length == 108 || length == 124;
   if (!isNew || file.size() < kFileHeader + kShortest) return {};
-  return InfoOf(file, length);
+  return NewInfoOf(file, length);
 }
 
 bool IsBitDepth(std::uint32_t bits) {
