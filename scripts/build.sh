@@ -1,18 +1,24 @@
-# Sourced by run, test and the scripts that build: building a preset, and the links under which its
-# programs are found.
+# Sourced by run, test and the scripts that build: building a folder or a preset, and the links under
+# which the programs are found.
 
-# Builds the targets of a preset that is configured, everything if none is named. Shows its progress to
-# a person only; what fails is always shown.
-build_preset() {
-  local preset=$1
+# Builds the targets in a configured folder below build, everything if none is named. Shows its progress
+# to a person only; what fails is always shown.
+build_folder() {
+  local folder=$1
   shift
   local quiet=()
   [ -t 1 ] || quiet=(-- --quiet)
-  cmake --build "build/$preset" ${1:+--target "$@"} "${quiet[@]}"
+  cmake --build "build/$folder" ${1:+--target "$@"} "${quiet[@]}"
 }
 
-# build/wheelwright and build/wheelwright-replay are the programs of the release build.
+# The same in the folder of a preset, which is configured if it has to be.
+build_preset() {
+  [ "build/$1/build.ninja" -nt CMakePresets.json ] || cmake --preset "$1" --log-level=WARNING >/dev/null
+  build_folder "$@"
+}
+
+# build/wheelwright and build/wheelwright-replay are the programs of that preset.
 link_programs() {
-  ln -sfn release/wheelwright build/wheelwright
-  ln -sfn release/wheelwright-replay build/wheelwright-replay
+  ln -sfn "$1/wheelwright" build/wheelwright
+  ln -sfn "$1/wheelwright-replay" build/wheelwright-replay
 }

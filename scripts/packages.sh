@@ -3,11 +3,9 @@
 
 declare -A PACKAGES=(
   [build]="g++ cmake ninja-build qt6-base-dev nlohmann-json3-dev fonts-dejavu-core"
-  [test]="libgtest-dev librapidcheck-dev clang-format clang-tidy python3 ccache"
+  [test]="clang libclang-rt-dev lld libgtest-dev librapidcheck-dev clang-format clang-tidy python3 ccache"
   [bench]="libbenchmark-dev mawk xvfb"
-  [fuzz]="clang libclang-rt-dev"
-  [coverage]="clang libclang-rt-dev llvm"
-  [mutants]="clang"
+  [coverage]="llvm gcovr"
   [pictures]="librsvg2-bin imagemagick"
   [icons]="librsvg2-bin icoutils"
   [metadata]="desktop-file-utils appstream mandoc"

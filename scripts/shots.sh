@@ -5,10 +5,8 @@
 find_replay() {
   REPLAY=${WHEELWRIGHT_REPLAY:-build/wheelwright-replay}
   if [ -n "${WHEELWRIGHT_REPLAY:-}" ]; then return 0; fi
-  [ -f build/release/build.ninja ] ||
-    cmake --preset release -D WHEELWRIGHT_TESTS=OFF --log-level=WARNING >/dev/null
   build_preset release wheelwright-replay
-  link_programs
+  link_programs release
 }
 
 # A folder with all that the sessions need: the files beside the program, and the samples to work on.

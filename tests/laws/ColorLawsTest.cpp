@@ -181,7 +181,7 @@ Texts Sorted(Texts texts) {
 }
 
 RC_GTEST_PROP(ColorLaws, TheReaderReadsWhatAPlainOneReads, ()) {
-  const std::string text = AnyFile();
+  const std::string text = Told(AnyFile());
   TestSession test;
   test.files.contents[kPath] = text;
   test.vars.CurrentFile = kPath;
@@ -206,7 +206,7 @@ RC_GTEST_PROP(ColorLaws, TheReaderReadsWhatAPlainOneReads, ()) {
 }
 
 RC_GTEST_PROP(ColorLaws, TheWriterWritesWhatAPlainOneWrites, ()) {
-  const std::string text = AnyFile();
+  const std::string text = Told(AnyFile());
   PlainColors tables = ReadColorsPlainly(AnyFile());
   if (*rc::gen::arbitrary<bool>()) tables.colors.back().Index = -1;
   TestSession test;
@@ -221,7 +221,7 @@ RC_GTEST_PROP(ColorLaws, TheWriterWritesWhatAPlainOneWrites, ()) {
 }
 
 RC_GTEST_PROP(ColorLaws, AnUneditedSaveAddsTheBannerAndTwoEmptyLinesToAWellLaidOutFile, ()) {
-  const std::string text = AnyGoodFile().Text();
+  const std::string text = Told(AnyGoodFile().Text());
   TestSession test;
   RC_ASSERT(Opened(test, text));
   RC_ASSERT(Saved(test) == kBanner + text + "\r\n\r\n");
@@ -231,7 +231,7 @@ RC_GTEST_PROP(ColorLaws, AnUneditedSaveAddsTheBannerAndTwoEmptyLinesToAWellLaidO
 RC_GTEST_PROP(ColorLaws, ASaveChangesNothingAroundTheSections, ()) {
   GoodFile file = AnyGoodFile();
   TestSession test;
-  RC_ASSERT(Opened(test, file.Text()));
+  RC_ASSERT(Opened(test, Told(file.Text())));
   test.main.cmdNewColor.ClickByHand();
   test.main.cmbAutos.ChooseByHand(test.main.cmbAutos.Count() - 1);
   test.main.cmdAddColor.ClickByHand();
@@ -243,7 +243,7 @@ RC_GTEST_PROP(ColorLaws, ASaveChangesNothingAroundTheSections, ()) {
 
 RC_GTEST_PROP(ColorLaws, TheSavedFileGivesTheSameTablesWithTheColorsNumberedAnew, ()) {
   TestSession test;
-  RC_ASSERT(Opened(test, AnyGoodFile().Text()));
+  RC_ASSERT(Opened(test, Told(AnyGoodFile().Text())));
   test.main.lstColors.ChooseByHand(*rc::gen::inRange(0, test.main.lstColors.Count()));
   test.desktop.answers.push_back(true);
   RC_PRE(test.main.lstColors.Count() > 1);
@@ -259,7 +259,7 @@ RC_GTEST_PROP(ColorLaws, TheSavedFileGivesTheSameTablesWithTheColorsNumberedAnew
 RC_GTEST_PROP(ColorLaws, ASaveKeepsEveryCommentOutsideThePalette, ()) {
   const GoodFile file = AnyGoodFile();
   TestSession test;
-  RC_ASSERT(Opened(test, file.Text()));
+  RC_ASSERT(Opened(test, Told(file.Text())));
   const auto commentsOf = [](const std::string& text) {
     Texts comments;
     for (const std::string& line : PlainLines(text)) {

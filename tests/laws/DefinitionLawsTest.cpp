@@ -140,7 +140,7 @@ std::string Saved(TestSession& test) {
 }
 
 RC_GTEST_PROP(DefinitionLaws, TheReaderReadsWhatAPlainOneReads, ()) {
-  const std::string text = AnyFile();
+  const std::string text = Told(AnyFile());
   TestSession test;
   test.files.contents[kPath] = text;
   test.vars.CurrentFile = kPath;
@@ -159,7 +159,7 @@ RC_GTEST_PROP(DefinitionLaws, TheReaderReadsWhatAPlainOneReads, ()) {
 }
 
 RC_GTEST_PROP(DefinitionLaws, TheWriterWritesWhatAPlainOneWrites, ()) {
-  const std::string text = AnyFile();
+  const std::string text = Told(AnyFile());
   const std::vector<IdeEntry> ides = AnyTable();
   TestSession test;
   test.files.contents[kPath] = text;
@@ -172,7 +172,7 @@ RC_GTEST_PROP(DefinitionLaws, TheWriterWritesWhatAPlainOneWrites, ()) {
 RC_GTEST_PROP(DefinitionLaws, ASaveChangesNothingAroundTheSection, ()) {
   const GoodFile file = AnyGoodFile();
   TestSession test;
-  RC_ASSERT(Opened(test, file.Text()));
+  RC_ASSERT(Opened(test, Told(file.Text())));
   test.main.txtGameName.EditByHand("edited");
   const std::string saved = Saved(test);
   const std::string head = kBanner + file.before + "cars\r\n";
@@ -195,7 +195,7 @@ IdeEntry AsWritten(IdeEntry entry) {
 
 RC_GTEST_PROP(DefinitionLaws, TheSavedFileGivesTheSameTableButForTheExtrasThatItLacks, ()) {
   TestSession test;
-  RC_ASSERT(Opened(test, AnyGoodFile().Text()));
+  RC_ASSERT(Opened(test, Told(AnyGoodFile().Text())));
   std::vector<IdeEntry> expected = RecordsOf(test.vars.Ides);
   std::transform(expected.begin(), expected.end(), expected.begin(), AsWritten);
   RC_ASSERT(Opened(test, Saved(test)));
@@ -204,7 +204,7 @@ RC_GTEST_PROP(DefinitionLaws, TheSavedFileGivesTheSameTableButForTheExtrasThatIt
 
 RC_GTEST_PROP(DefinitionLaws, ASavedFileThatIsLoadedAndSavedAgainOnlyGrowsByAnEmptyLine, ()) {
   TestSession test;
-  RC_ASSERT(Opened(test, AnyGoodFile().Text()));
+  RC_ASSERT(Opened(test, Told(AnyGoodFile().Text())));
   const std::string once = Saved(test);
   RC_ASSERT(Saved(test) == once + "\r\n");
   RC_ASSERT(Opened(test, once));
@@ -212,7 +212,7 @@ RC_GTEST_PROP(DefinitionLaws, ASavedFileThatIsLoadedAndSavedAgainOnlyGrowsByAnEm
 }
 
 RC_GTEST_PROP(DefinitionLaws, AnUneditedSaveKeepsEveryCommentOfTheFile, ()) {
-  const std::string text = AnyFile();
+  const std::string text = Told(AnyFile());
   TestSession test;
   RC_PRE(Opened(test, text));
   const auto commentsOf = [](const std::string& file) {

@@ -1,6 +1,7 @@
 // What holds for the way of vehicles from one session to another, whatever they are.
 #include "screen/HandlingFields.h"
 #include "support/Exchange.h"
+#include "support/Generators.h"
 #include "support/ImportReference.h"
 #include "support/Records.h"
 
@@ -82,7 +83,7 @@ RC_GTEST_PROP(ExchangeLaws, ExportedVehiclesComeBackWithAllTheirTexts, ()) {
   from.exporter.lst1.MarkByHand(marks);
   from.exporter.cmdAdd.ClickByHand();
   const std::vector<std::string> chosen = from.exporter.lst2.Rows();
-  const std::string file = ExportChosen(from);
+  const std::string file = Told(ExportChosen(from));
 
   TestSession to;
   to.OpenHandling(CrLf({VehicleLineOf(kHome)}));
@@ -118,7 +119,7 @@ RC_GTEST_PROP(ExchangeLaws, AnImportGivesWhatAPlainWalkOverRowsAndLinesGives, ()
       test->main.cmbAutos.ReplaceRow(i, rows[static_cast<std::size_t>(i)]);
     }
   }
-  Import(quick, text);
+  Import(quick, Told(text));
   PlainImport(plain.session, text);
   RC_ASSERT(quick.LastShown() == "information: E115");
   RC_ASSERT(quick.main.cmbAutos.Rows() == plain.main.cmbAutos.Rows());

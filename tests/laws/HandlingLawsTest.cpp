@@ -135,7 +135,7 @@ GoodFile RandomGoodFile() {
   for (const char kind : kinds) {
     if (*rc::gen::inRange(0, 3) == 0) lines.push_back("% " + std::string(2, kind) + kind);
   }
-  file.text = TextOfLines(lines);
+  file.text = Told(TextOfLines(lines));
   return file;
 }
 
@@ -151,7 +151,7 @@ std::string Saved(TestSession& test) {
 }
 
 RC_GTEST_PROP(HandlingLaws, TheReaderReadsWhatAPlainOneReads, ()) {
-  const std::string text = RandomFile();
+  const std::string text = Told(RandomFile());
   TestSession test;
   test.files.contents[kPath] = text;
   test.vars.CurrentFile = kPath;
@@ -171,7 +171,7 @@ RC_GTEST_PROP(HandlingLaws, TheReaderReadsWhatAPlainOneReads, ()) {
 }
 
 RC_GTEST_PROP(HandlingLaws, TheWriterWritesWhatAPlainOneWrites, ()) {
-  const std::string text = RandomFile();
+  const std::string text = Told(RandomFile());
   const auto names = *rc::gen::container<Lines>(OddName());
   std::vector<Car> cars(1);
   for (const std::string& name : *rc::gen::container<Lines>(OddName())) {
@@ -190,7 +190,7 @@ RC_GTEST_PROP(HandlingLaws, TheWriterWritesWhatAPlainOneWrites, ()) {
 }
 
 RC_GTEST_PROP(HandlingLaws, ForeignLinesComeThroughByteForByteInOrder, ()) {
-  const std::string text = RandomFile();
+  const std::string text = Told(RandomFile());
   TestSession test;
   RC_PRE(Opened(test, text));
   const std::string author = "; Author: " + test.main.txtAuthor.Text();
@@ -212,7 +212,7 @@ RC_GTEST_PROP(HandlingLaws, ForeignLinesComeThroughByteForByteInOrder, ()) {
 
 RC_GTEST_PROP(HandlingLaws, ASecondSaveAddsAnEmptyLineAtMost, ()) {
   TestSession test;
-  RC_PRE(Opened(test, RandomFile()));
+  RC_PRE(Opened(test, Told(RandomFile())));
   const std::string once = Saved(test);
   const std::string twice = Saved(test);
   RC_ASSERT(twice == once || twice == once + "\r\n");

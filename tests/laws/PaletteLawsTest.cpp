@@ -1,6 +1,7 @@
 // What holds for any sequence of edits of the palette and the pairs.
 #include "catalogue/Palette.h"
 #include "support/ColorReference.h"
+#include "support/Generators.h"
 #include "support/PaletteModel.h"
 #include "support/Records.h"
 #include "support/TableTexts.h"
@@ -141,7 +142,7 @@ Texts LabelsOf(const Table<ColorEntry>& colors) {
 
 RC_GTEST_PROP(PaletteLaws, EverySequenceOfEditsLeavesWhatThePlainModelHas, ()) {
   TestSession test;
-  test.OpenColors("col\r\n" + AnyColors() + "end\r\ncar\r\n" + AnyVehicles() + "end\r\n");
+  test.OpenColors(Told("col\r\n" + AnyColors() + "end\r\ncar\r\n" + AnyVehicles() + "end\r\n"));
   RC_ASSERT(test.LastShown() == "normal");
   test.desktop.shown.clear();
   PaletteModel model(RecordsOf(test.vars.Kopie_Colors), RecordsOf(test.vars.Kopie_CarColors),

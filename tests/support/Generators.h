@@ -18,4 +18,10 @@ inline rc::Gen<std::string> TextOf(const std::string& characters) {
   return rc::gen::container<std::string>(rc::gen::elementOf(characters));
 }
 
+// The text of a file, said with its bytes when the law fails.
+inline std::string Told(std::string text) {
+  RC_LOG() << "the file: " << rc::toString(text) << std::endl;
+  return text;
+}
+
 }  // namespace wheelwright::testing
