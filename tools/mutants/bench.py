@@ -1,4 +1,4 @@
-"""A copy of the source tree in which the logic can be changed, built and tested."""
+"""A copy of the source tree in which the program can be changed, built and tested."""
 
 import contextlib
 import json
@@ -13,7 +13,6 @@ import time
 from dataclasses import dataclass
 
 SKIPPED = re.compile(r"^(\.git|build.*|dist|__pycache__)$")
-PROGRAMS = ("wheelwright-tests", "wheelwright-replay")
 SUITE = re.compile(r"^(?:TEST|TEST_F|TEST_P|RC_GTEST_PROP|RC_GTEST_FIXTURE_PROP)\((\w+)", re.MULTILINE)
 # A change that never ends mustn't take the whole machine's memory.
 MOST_MEMORY = 4 << 30
@@ -91,20 +90,20 @@ class Bench:
             capture_output=True, text=True, check=False)
         return Outcome(done.returncode == 0, True, done.stdout + done.stderr)
 
-    def prepare(self):
-        """Builds the unchanged copy and tries its tests, which says how long they may take."""
+    def prepare(self, programs, parts):
+        """Builds programs of the unchanged copy and tries their tests, which says how long they may take."""
         subprocess.run(["cmake", "--preset", "mutants", "--log-level=WARNING"], cwd=self.tree,
                        stdout=subprocess.DEVNULL, check=True)
-        built = self.compile(*PROGRAMS)
+        built = self.compile(*programs)
         if not built.passed:
             sys.exit(built.output)
-        for name, step in (("tests", self.unit_tests), ("sessions", self.sessions)):
+        for part in parts:
             began = time.monotonic()
-            outcome = step()
+            outcome = self.tests(part)
             if not outcome.passed:
                 sys.exit(outcome.output + "\nThe tests fail without any change.")
             took = time.monotonic() - began
-            self.limits[name] = max(PATIENCE * took, SHORTEST_PATIENCE)
+            self.limits[part] = max(PATIENCE * took, SHORTEST_PATIENCE)
 
     @contextlib.contextmanager
     def changed(self, file, text):
@@ -131,25 +130,23 @@ class Bench:
         files = (pathlib.Path(entry["directory"], entry["file"]) for entry in entries)
         return [file.relative_to(self.tree) for file in files if file.is_relative_to(self.tree)]
 
-    def environment(self, **more):
+    def environment(self):
         shutil.rmtree(self.temporary, ignore_errors=True)
         self.temporary.mkdir(parents=True)
-        return {**os.environ, "TMPDIR": str(self.temporary), "TEST_TMPDIR": str(self.temporary), **more}
-
-    def unit_tests(self, suites=("*",)):
-        pattern = ":".join(shape for suite in suites for shape in (f"{suite}.*", f"*/{suite}.*"))
         # Random inputs are the same for every change.
-        environment = self.environment(RC_PARAMS="seed=1")
-        return run([str(self.build / PROGRAMS[0]), "--gtest_brief=1", "--gtest_fail_fast",
-                    f"--gtest_filter={pattern}"], environment, self.limits.get("tests"))
+        return {**os.environ, "TMPDIR": str(self.temporary), "TEST_TMPDIR": str(self.temporary),
+                "RC_PARAMS": "seed=1"}
 
-    def sessions(self):
-        return run([sys.executable, str(self.tree / "tests/sessions/play.py"),
-                    str(self.build / PROGRAMS[1]), "--plain"], self.environment(),
-                   self.limits.get("sessions"))
-
-    def suites_beside(self, file):
-        """The test suites of the folder of tests that goes with a source."""
+    def tests_beside(self, file):
+        """The unit tests of the folder of tests that goes with a source."""
         folder = self.tree / "tests" / pathlib.PurePath(file).parts[1]
-        found = {name for test in folder.glob("*Test.cpp") for name in SUITE.findall(test.read_text())}
-        return sorted(found)
+        suites = {name for test in folder.glob("*Test.cpp") for name in SUITE.findall(test.read_text())}
+        pattern = ":".join(shape for suite in suites for shape in (f"{suite}.*", f"*/{suite}.*"))
+        return run([str(self.build / "wheelwright-tests"), "--gtest_brief=1", "--gtest_fail_fast",
+                    f"--gtest_filter={pattern}"], self.environment(), max(self.limits.values()))
+
+    def tests(self, part):
+        """The entries of ctest whose names begin so."""
+        return run(["ctest", "--test-dir", str(self.build), "-LE", "scaled|display", "-R", f"^{part}",
+                    "--output-on-failure", "--stop-on-failure", f"-j{os.cpu_count()}"],
+                   self.environment(), self.limits.get(part))

@@ -1,11 +1,13 @@
-"""Makes small random mistakes in the logic, one at a time, and sees whether a test finds each.
+"""Makes small random mistakes in the program, one at a time, and sees whether a test finds each.
 
-usage: scripts/mutants [COUNT] [SEED]      200 mistakes and a random seed by default
+usage: scripts/mutants [--windows] [COUNT] [SEED]      200 mistakes and a random seed by default
 
 What could be mistaken: a comparison, a bound, a sign, a logical word, the order of two steps, a call
-left out. All places under src but the real windows are equally likely. A mistake that doesn't compile
-isn't counted. The unit tests are tried first, then the sessions on the plain controls; a hang or a
-crash is a mistake found. Prints what no test finds; build/mutants/log has everything.
+left out. All places are equally likely: those of the logic, or with --windows those of the real windows
+and the main program. A mistake that doesn't compile isn't counted. The logic is judged by the unit tests,
+then the sessions on the plain controls; the windows by the widget tests, the tests of the program itself,
+then the sessions on the real windows. A hang or a crash is a mistake found. Prints what no test finds;
+build/mutants/log has everything.
 """
 
 import collections
@@ -13,8 +15,9 @@ import difflib
 import pathlib
 import random
 import sys
+from dataclasses import dataclass
 
-from bench import PROGRAMS, Bench
+from bench import Bench
 from sites import sites_of
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
@@ -23,12 +26,28 @@ SURVIVED = "survived"
 NOT_COMPILED = "doesn't compile"
 
 
-def logic_sources(bench):
-    """Sources that this system compiles, and all headers."""
-    compiled = [file for file in bench.compiled_files()
-                if file.match("src/*/*.cpp") or file.match("src/core/*/*.cpp")]
-    headers = [file.relative_to(bench.tree) for file in bench.tree.glob("src/*/*.h")]
-    return sorted(str(file) for file in [*compiled, *headers])
+@dataclass(frozen=True)
+class Half:
+    """A half of the program, what it is built into, and the tests that judge it."""
+    library: str
+    programs: tuple
+    has_tests_beside: bool
+    parts: tuple
+
+
+LOGIC = Half("wheelwright-logic", ("wheelwright-tests", "wheelwright-replay"), True,
+             ("wheelwright-tests", "sessions-plain"))
+WINDOWS = Half("wheelwright-windows", ("all",), False,
+               ("wheelwright-widget-tests", "program", "sessions-widgets"))
+
+
+def sources_of(bench, half):
+    """Sources of a half that this system compiles, and its headers."""
+    headers = [file.relative_to(bench.tree) for file in bench.tree.rglob("src/**/*.h")]
+    files = {str(file) for file in [*bench.compiled_files(), *headers] if file.parts[0] == "src"}
+    windows = {file for file in files if file.startswith("src/forms/qt/") or file == "src/main.cpp"}
+    others = {file for file in files if file.startswith("src/core/windows/")}
+    return sorted(windows if half is WINDOWS else files - windows - others)
 
 
 def difference(before, after):
@@ -36,12 +55,13 @@ def difference(before, after):
     return "\n".join("    " + line for line in lines[2:])
 
 
-def finder(bench, file):
+def finder(bench, half, file):
     """What finds the mistake that is in the copy just now."""
-    if not bench.compile("wheelwright-logic").passed or not bench.compile(*PROGRAMS).passed:
+    if not bench.compile(half.library).passed or not bench.compile(*half.programs).passed:
         return NOT_COMPILED
-    steps = [("the tests beside it", lambda: bench.unit_tests(bench.suites_beside(file))),
-             ("the other tests", bench.unit_tests), ("the sessions", bench.sessions)]
+    steps = [(part, lambda part=part: bench.tests(part)) for part in half.parts]
+    if half.has_tests_beside:
+        steps.insert(0, ("the tests beside it", lambda: bench.tests_beside(file)))
     for name, step in steps:
         outcome = step()
         if not outcome.ended:
@@ -51,15 +71,15 @@ def finder(bench, file):
     return SURVIVED
 
 
-def try_site(bench, site, text):
+def try_site(bench, half, site, text):
     """Puts the mistake in, looks who finds it and takes it out again; the finder and the difference."""
     source = (bench.tree / site.file).read_text(encoding="utf-8")
     mistaken = source[:site.start] + text + source[site.end:]
     with bench.changed(site.file, mistaken):
-        return finder(bench, site.file), difference(source, mistaken)
+        return finder(bench, half, site.file), difference(source, mistaken)
 
 
-def play(bench, sites, count, log):
+def play(bench, half, sites, count, log):
     """Tries sites in their order until `count` of them have compiled; how many each finder found."""
     found = collections.Counter()
     for site, text in sites:
@@ -67,7 +87,7 @@ def play(bench, sites, count, log):
             break
         source = (bench.tree / site.file).read_text(encoding="utf-8")
         place = f"{site.file}:{source.count(chr(10), 0, site.start) + 1}"
-        found_by, lines = try_site(bench, site, text)
+        found_by, lines = try_site(bench, half, site, text)
         found[found_by] += 1
         entry = f"{place}: {site.kind}: {found_by}\n{lines}"
         print(entry, file=log, flush=True)
@@ -76,24 +96,26 @@ def play(bench, sites, count, log):
     return found
 
 
-def drawn_sites(bench, seed):
+def drawn_sites(bench, half, seed):
     dice = random.Random(seed)
-    sites = [site for file in logic_sources(bench)
+    sites = [site for file in sources_of(bench, half)
              for site in sites_of(file, (bench.tree / file).read_text(encoding="utf-8"))]
     dice.shuffle(sites)
     return [(site, dice.choice(site.choices)) for site in sites]
 
 
 def main():
-    if len(sys.argv) > 3 or not all(word.isdigit() for word in sys.argv[1:]):
+    half = WINDOWS if sys.argv[1:2] == ["--windows"] else LOGIC
+    numbers = sys.argv[2 if half is WINDOWS else 1:]
+    if len(numbers) > 2 or not all(word.isdigit() for word in numbers):
         sys.exit(__doc__)
-    count, seed = [int(word) for word in sys.argv[1:]] + [200, random.randrange(10**6)][len(sys.argv) - 1:]
+    count, seed = [int(word) for word in numbers] + [200, random.randrange(10**6)][len(numbers):]
     bench = Bench(ROOT, FOLDER)
-    bench.prepare()
-    sites = drawn_sites(bench, seed)
+    bench.prepare(half.programs, half.parts)
+    sites = drawn_sites(bench, half, seed)
     print(f"seed {seed}, {len(sites)} places")
     with (FOLDER / "log").open("w", encoding="utf-8") as log:
-        found = play(bench, sites, count, log)
+        found = play(bench, half, sites, count, log)
     compiled = found.total() - found[NOT_COMPILED]
     summary = ", ".join(f"{number} {name}" for name, number in found.most_common())
     print(f"{compiled} mistakes tried, {compiled - found[SURVIVED]} found: {summary}")
