@@ -3,8 +3,6 @@
 #include "forms/Lifecycle.h"
 #include "support/HeldTables.h"
 
-#include <stdexcept>
-
 namespace wheelwright::testing {
 namespace {
 
@@ -184,13 +182,6 @@ const std::vector<FaultCommand>& FaultCommands() {
       {"open the manual", JustStarted, [](FaultySession& s) { s.Click(s.main.cmdHelp); }},
   };
   return commands;
-}
-
-const FaultCommand& FaultCommandOf(const std::string& name) {
-  for (const FaultCommand& command : FaultCommands()) {
-    if (name == command.name) return command;
-  }
-  throw std::invalid_argument(name);
 }
 
 }  // namespace wheelwright::testing

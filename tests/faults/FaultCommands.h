@@ -3,7 +3,6 @@
 
 #include "faults/FaultySession.h"
 
-#include <string>
 #include <vector>
 
 namespace wheelwright::testing {
@@ -15,8 +14,5 @@ struct FaultCommand {
 };
 
 const std::vector<FaultCommand>& FaultCommands();
-
-// The command of that name.
-const FaultCommand& FaultCommandOf(const std::string& name);
 
 }  // namespace wheelwright::testing

@@ -238,17 +238,22 @@ std::vector<Fault> FaultsOf(const std::vector<FileCall>& calls, std::size_t inde
   return {};
 }
 
-std::string OutcomeOf(const FaultCommand& command, int call, Fault fault) {
+std::vector<std::string> OutcomeOf(const FaultCommand& command, int call, Fault fault) {
   const Played played = Play(command, call, fault);
   const FaultySession& s = *played.session;
   std::vector<std::string> shown = s.desktop.shown;
   for (std::string& text : shown) std::replace(text.begin(), text.end(), '\r', ' ');
   for (std::string& text : shown) std::erase(text, '\n');
-  return Joined({Joined(shown, ", "), TablesOf(s.vars), s.vars.IsSaved ? "saved" : "pending",
-                 s.vars.CurrentFile.empty() ? "-" : NameOfFile(s.vars.CurrentFile),
-                 EnabledOf(s.main), Joined(s.main.cmbAutos.Rows(), " "), PictureOf(s.main),
-                 LanguageOf(s.vars), SettingsOf(played), DiskOf(command, played)},
-                " | ");
+  return {Joined(shown, ", "),
+          TablesOf(s.vars),
+          s.vars.IsSaved ? "saved" : "pending",
+          s.vars.CurrentFile.empty() ? "-" : NameOfFile(s.vars.CurrentFile),
+          EnabledOf(s.main),
+          Joined(s.main.cmbAutos.Rows(), " "),
+          PictureOf(s.main),
+          LanguageOf(s.vars),
+          SettingsOf(played),
+          DiskOf(command, played)};
 }
 
 }  // namespace wheelwright::testing

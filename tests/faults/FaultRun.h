@@ -1,4 +1,4 @@
-// Runs one command with one fault and puts what came of it into one row of a table.
+// Runs one command with one fault and puts says what came of it, cell by cell of a table.
 #pragma once
 
 #include "faults/FaultCommands.h"
@@ -33,6 +33,6 @@ std::vector<Fault> FaultsOf(const std::vector<FileCall>& calls, std::size_t inde
 //   the settings that differ from before the command
 //   the files that differ from before the command
 // `call` counts from 1; 0 lets nothing go wrong.
-std::string OutcomeOf(const FaultCommand& command, int call, Fault fault);
+std::vector<std::string> OutcomeOf(const FaultCommand& command, int call, Fault fault);
 
 }  // namespace wheelwright::testing
