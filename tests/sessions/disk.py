@@ -7,8 +7,13 @@ import shutil
 import stat
 import tempfile
 
+SESSIONS = pathlib.Path(__file__).resolve().parent
 CODE_PAGE = "cp1252"
 READ_ONLY = stat.S_IRUSR | stat.S_IRGRP | stat.S_IROTH
+
+
+def lay_over(source, folder):
+    shutil.copytree(source, folder, dirs_exist_ok=True, copy_function=shutil.copyfile)
 
 
 def write(folder, file, text):
@@ -23,7 +28,7 @@ def remove(folder, path):
 
 
 def make_directory(folder, path):
-    (folder / path).mkdir(parents=True)
+    (folder / path).mkdir(parents=True, exist_ok=True)
 
 
 def make_read_only(folder, file):
@@ -34,8 +39,17 @@ def link(folder, target, path):
     (folder / path).symlink_to(target)
 
 
+def copy(folder, source, path):
+    source = SESSIONS / source
+    if source.is_dir():
+        lay_over(source, folder / path)
+    else:
+        (folder / path).parent.mkdir(parents=True, exist_ok=True)
+        shutil.copyfile(source, folder / path)
+
+
 STEPS = {"write": write, "remove": remove, "mkdir": make_directory, "readonly": make_read_only,
-         "link": link}
+         "link": link, "copy": copy}
 
 
 def in_json(text):
@@ -43,9 +57,10 @@ def in_json(text):
 
 
 class Folder:
-    def __init__(self, session, app, runner):
-        self.session = session
-        self.app = app
+    """Filled from the before/ and prepare.json of several folders, one over the other."""
+
+    def __init__(self, layers, runner):
+        self.layers = layers
         self.runner = runner
         self.path = None
 
@@ -62,15 +77,16 @@ class Folder:
         shutil.rmtree(self.path)
 
     def fill(self):
-        if (self.session / "before").is_dir():
-            shutil.copytree(self.session / "before", self.path, dirs_exist_ok=True,
-                            copy_function=shutil.copyfile)
+        for layer in self.layers:
+            if (layer / "before").is_dir():
+                lay_over(layer / "before", self.path)
         if not (self.path / "app").exists():
-            shutil.copytree(self.app, self.path / "app", copy_function=shutil.copyfile)
-        if (self.session / "prepare.json").exists():
-            text = (self.session / "prepare.json").read_text("utf-8")
-            for step in json.loads(text.replace("@DIR@", in_json(str(self.path)))):
-                self.take(step)
+            lay_over(SESSIONS / "app", self.path / "app")
+        for layer in self.layers:
+            if (layer / "prepare.json").exists():
+                text = (layer / "prepare.json").read_text("utf-8")
+                for step in json.loads(text.replace("@DIR@", in_json(str(self.path)))):
+                    self.take(step)
 
     def take(self, step):
         STEPS[step[0]](self.path, *step[1:])

@@ -39,9 +39,14 @@ def printable_lines(data):
 class Expectation:
     def __init__(self, session, folder):
         self.session = session
+        self.result = session / "result.jsonl"
         self.folder = folder
 
     def differences(self, outcome, before):
+        if not self.result.exists():
+            yield ("result.jsonl is missing: once this session shows what it should, "
+                   "--accept writes down what comes out")
+            return
         yield from compared(self.expected_lines(), [self.text_of(line) for line in outcome.lines],
                             "result")
         if outcome.exit_code != self.exit_code():
@@ -50,7 +55,7 @@ class Expectation:
         yield from self.file_differences(before)
 
     def expected_lines(self):
-        text = self.folder.named((self.session / "result.jsonl").read_text(encoding="utf-8"))
+        text = self.folder.named(self.result.read_text(encoding="utf-8"))
         return [self.text_of(json.loads(line)) for line in text.split("\n") if line.strip()]
 
     def text_of(self, line):
@@ -85,7 +90,7 @@ class Expectation:
     def accept(self, outcome, before):
         lines = [json.dumps(plain(line), ensure_ascii=False) + "\n" for line in outcome.lines]
         result = self.folder.unnamed("".join(lines))
-        (self.session / "result.jsonl").write_text(result, encoding="utf-8", newline="\n")
+        self.result.write_text(result, encoding="utf-8", newline="\n")
         (self.session / "exit").unlink(missing_ok=True)
         if outcome.exit_code != 0:
             (self.session / "exit").write_text(f"{outcome.exit_code}\n")

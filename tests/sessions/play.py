@@ -7,9 +7,10 @@ REPLAY is the program wheelwright-replay. Without names all sessions are played;
 session ("language/full-table") or of a subject ("language"). Without a mode each session is played
 in both. --accept writes down what came out, for review, from the first mode that is played; it needs
 names, so that no session is accepted unseen. --runner wine plays a replay that was built for
-Windows; the separators in paths are then left out of the comparison.
+Windows; the separators in paths are then left out of the comparison. The scripts that the replay must
+refuse are no folders but the table of refused.py, the subject "refused".
 
-A session is a folder:
+A session is the folder SUBJECT/SESSION:
   script.jsonl   what is played
   result.jsonl   what must come out, line for line
   before/        files that are there when the session starts
@@ -18,67 +19,53 @@ A session is a folder:
   prepare.json   steps on the disk before the start, in the order of the list
   exit           the exit code, if it isn't 0
 
+What the sessions of a subject share of before/ and prepare.json lies in SUBJECT; their own comes on top.
+Any other folder in a session is a case: it has its own of all but the script, on top of the session's
+before/ and prepare.json, and its name stands for @CASE@ in the script. The session is then played once
+for each case, SUBJECT/SESSION/CASE.
+
 "@DIR@" in script, result and steps is the fresh folder in which a session is played. Its program
 directory is @DIR@/app: app of before/ or else the app of this folder. A line {"disk": STEP} of a
 script is a step on the disk in the middle of the session.
 
-Steps: ["write", FILE, TEXT], ["remove", PATH], ["mkdir", PATH], ["readonly", FILE] and
-["link", TARGET, PATH].
+Steps: ["write", FILE, TEXT], ["remove", PATH], ["mkdir", PATH], ["readonly", FILE], ["link", TARGET,
+PATH] and ["copy", FROM, PATH], where FROM is a file or folder below this folder.
 """
 
 import argparse
+import os
 import pathlib
 import sys
 from concurrent.futures import ThreadPoolExecutor
 
-from disk import Folder
-from expectation import Expectation
-from replay import play
+from refused import REFUSED
 from runner import RUNNERS
+from session import sessions_below
 
-SESSIONS = pathlib.Path(__file__).resolve().parent
 MODES = {"plain": ["--plain"], "widgets": []}
-JOBS = 2
+JOBS = os.cpu_count()
 
 
-def sessions_named(names, root=SESSIONS):
-    """The folders of the sessions; every name must be that of a session or subject."""
-    folders = sorted(script.parent for script in root.glob("*/*/script.jsonl"))
+def chosen(names, sessions):
+    """The sessions of these names; every name must be that of a subject, session or case."""
     if not names:
-        return folders
+        return sessions
     found = []
     for name in names:
-        chosen = [folder for folder in folders if name in (folder.parent.name, title(folder))]
-        if not chosen:
+        of_name = [each for each in sessions if f"{each.title}/".startswith(f"{name}/")]
+        if not of_name:
             sys.exit(f"there is no session {name}")
-        found += chosen
+        found += of_name
     return found
 
 
-def title(session):
-    return f"{session.parent.name}/{session.name}"
-
-
-def differences(program, runner, session, mode, accept):
-    """Plays a session; what came out otherwise than expected, as lines of a report."""
-    with Folder(session, SESSIONS / "app", runner) as folder:
-        before = folder.files()
-        outcome = play([*runner.command, program, *MODES[mode], "--app", folder.name("app")],
-                       session / "script.jsonl", folder)
-        expectation = Expectation(session, folder)
-        if accept:
-            expectation.accept(outcome, before)
-            return []
-        return list(expectation.differences(outcome, before))
-
-
-def report(program, runner, session, mode, accept):
+def report(session, mode, *how):
     try:
-        faults = differences(program, runner, session, mode, accept)
+        faults = session.differences(*how)
     except Exception as error:  # one broken session must not hide the others
         faults = [f"{type(error).__name__}: {error}"]
     if faults:
-        print(f"{title(session)} ({mode})", *("    " + fault for fault in faults), sep="\n")
+        print(f"{session.title} ({mode})", *("    " + fault for fault in faults), sep="\n")
     return not faults
 
 
@@ -97,11 +84,9 @@ def main():
     modes = [mode for mode in MODES if getattr(options, mode)] or list(MODES)
     if options.accept:
         modes = modes[:1]
-    sessions = sessions_named(options.names)
-    if not sessions:
-        sys.exit("there is no session")
     runner = RUNNERS[options.runner]
-    plays = [(program, runner, session, mode, options.accept)
+    sessions = chosen(options.names, sessions_below() + ([] if options.accept else REFUSED))
+    plays = [(session, mode, [*runner.command, program, *MODES[mode]], runner, options.accept)
              for session in sessions for mode in modes]
     with ThreadPoolExecutor(JOBS) as pool:
         good = list(pool.map(lambda each: report(*each), plays))

@@ -11,9 +11,9 @@ import unittest
 
 import disk
 import play
-import replay
+import refused
 import runner
-from expectation import Expectation
+import session
 
 PROGRAM = """
 import json, pathlib, sys
@@ -37,7 +37,12 @@ for text in sys.stdin:
 """
 
 
+COMMAND = [sys.executable, "-c", PROGRAM]
+
+
 class Sessions(unittest.TestCase):
+    runner = runner.RUNNERS["native"]
+
     def setUp(self):
         folder = tempfile.TemporaryDirectory()
         self.addCleanup(folder.cleanup)
@@ -56,15 +61,12 @@ class Sessions(unittest.TestCase):
     def expect(self, *lines):
         self.write("result.jsonl", "".join(json.dumps(line) + "\n" for line in lines))
 
+    def folder(self):
+        return disk.Folder([self.session], self.runner)
+
     def play(self, accept=False):
-        with disk.Folder(self.session, play.SESSIONS / "app", runner.RUNNERS["native"]) as folder:
-            before = folder.files()
-            outcome = replay.play([sys.executable, "-c", PROGRAM], self.session / "script.jsonl",
-                                  folder)
-            expectation = Expectation(self.session, folder)
-            if accept:
-                expectation.accept(outcome, before)
-            return list(expectation.differences(outcome, before))
+        return [fault for each in session.sessions_below(self.session.parents[1])
+                for fault in each.differences(COMMAND, self.runner, accept)]
 
     def assert_fine(self):
         self.assertEqual([], self.play())
@@ -130,6 +132,14 @@ class Results(Sessions):
         self.assert_fine()
 
 
+    def test_a_session_without_a_result_says_how_to_make_it(self):
+        self.script({"say": {"a": 1}})
+        (self.session / "result.jsonl").unlink()
+        self.assert_found("result.jsonl is missing", "--accept")
+        self.play(accept=True)
+        self.assert_fine()
+
+
 class Files(Sessions):
     def test_a_file_that_changes_comes_to_be_or_goes_is_found(self):
         self.script({"write": "@DIR@/game.txt"})
@@ -165,16 +175,73 @@ class Files(Sessions):
         self.assert_fine()
 
 
+    def test_a_file_or_folder_is_copied_from_beside_the_sessions(self):
+        self.script({"read": "@DIR@/a/Zwei.lng"}, {"read": "@DIR@/b/c/Eins.lng"})
+        self.write("prepare.json", json.dumps([["copy", "app/Zwei.lng", "a/Zwei.lng"],
+                                               ["copy", "app", "b/c"]]))
+        self.assertIn("Z000", "".join(self.play()))
+        self.assertIn("E000", "".join(self.play()))
+
+
+class Layers(Sessions):
+    def test_what_a_subject_shares_lies_below_what_a_session_has(self):
+        self.write("../before/game.txt", "shared")
+        self.write("../before/other.txt", "shared")
+        self.write("../prepare.json", json.dumps([["mkdir", "a"]]))
+        self.write("prepare.json", json.dumps([["write", "a/b.txt", "own"]]))
+        self.script(*[{"read": f"@DIR@/{name}"} for name in ("game.txt", "other.txt", "a/b.txt")])
+        self.expect({"read": "as it was"}, {"read": "shared"}, {"read": "own"})
+        self.assert_fine()
+
+    def test_a_session_is_played_once_for_each_case(self):
+        self.script({"say": "@CASE@"}, {"read": "@DIR@/game.txt"})
+        for case, text in (("one", "its own"), ("two", "as it was")):
+            self.write(f"{case}/result.jsonl", f'"{case}"\n{{"read": "{text}"}}\n')
+        self.write("one/before/game.txt", "its own")
+        self.assert_fine()
+        self.write("two/result.jsonl", "")
+        self.assert_found('+"two"')
+
+    def test_a_case_is_accepted_on_its_own(self):
+        self.script({"write": "@DIR@/@CASE@"}, {"end": 3})
+        self.write("one/before/a.txt", "")
+        self.write("two/before/a.txt", "")
+        self.play(accept=True)
+        self.assertEqual({"one": b"written"}, disk.files_below(self.session / "one/after"))
+        self.assertEqual({"two": b"written"}, disk.files_below(self.session / "two/after"))
+        self.assertEqual("3\n", (self.session / "two/exit").read_text())
+        self.assert_fine()
+
+
+class RefusedScripts(unittest.TestCase):
+    LINE = "dance"
+
+    def play(self, reason, program):
+        row = refused.Refused((self.LINE,), reason)
+        return "\n".join(row.differences([sys.executable, "-c", program],
+                                         runner.RUNNERS["native"], False))
+
+    def program(self, code=2, message="line 1, dance: no", before="pass"):
+        return f"import sys; {before}; print({message!r}, file=sys.stderr); sys.exit({code})"
+
+    def test_the_message_is_compared_whole_and_what_the_toolkit_says_is_left_out(self):
+        noise = "print('toolkit', file=sys.stderr)"
+        self.assertEqual("", self.play("no", self.program(before=noise)))
+        self.assertIn("-line 1, dance: n\n+line 1, dance: no", self.play("n", self.program()))
+        self.assertIn("-line 1, dance: no", self.play("no", "import sys; sys.exit(2)"))
+
+    def test_another_exit_code_a_result_or_a_file_is_found(self):
+        self.assertIn("exit code 0, not 2", self.play("no", self.program(code=0)))
+        self.assertIn("+{'a': 1}", self.play("no", self.program(before="print('{\"a\": 1}')")))
+        made = self.program(before="open(sys.argv[2] + '/new', 'w')")
+        self.assertIn("files differ", self.play("no", made))
+
+
 class UnderWine(Sessions):
-    def play(self, accept=False):
-        wine = runner.Wine()
-        with disk.Folder(self.session, play.SESSIONS / "app", wine) as folder:
-            outcome = replay.play([sys.executable, "-c", PROGRAM], self.session / "script.jsonl",
-                                  folder)
-            return list(Expectation(self.session, folder).differences(outcome, folder.files()))
+    runner = runner.Wine()
 
     def test_the_folder_is_named_as_a_drive_of_windows(self):
-        with disk.Folder(self.session, play.SESSIONS / "app", runner.Wine()) as folder:
+        with self.folder() as folder:
             self.assertEqual("Z:" + str(folder.path / "app").replace("/", "\\"), folder.name("app"))
 
     def test_separators_in_paths_are_left_out_of_the_comparison(self):
@@ -195,7 +262,7 @@ class Steps(Sessions):
                                                ["link", "@DIR@/game.txt", "a/c.txt"],
                                                ["readonly", "a/b.txt"]]))
         self.write("before/game.txt", "linked")
-        with disk.Folder(self.session, play.SESSIONS / "app", runner.RUNNERS["native"]) as folder:
+        with self.folder() as folder:
             self.assertEqual(b"\xe9", (folder.path / "a/b.txt").read_bytes())
             self.assertEqual("linked", (folder.path / "a/c.txt").read_text())
             self.assertEqual(0o444, (folder.path / "a/b.txt").stat().st_mode & 0o777)
@@ -243,17 +310,19 @@ class Names(unittest.TestCase):
         folder = tempfile.TemporaryDirectory()
         self.addCleanup(folder.cleanup)
         self.root = pathlib.Path(folder.name)
-        for name in ("a/one", "a/two", "b/one"):
+        for name in ("a/one", "a/one-more", "b/one/before", "b/one/x", "b/one/y"):
             (self.root / name).mkdir(parents=True)
+        for name in ("a/one", "a/one-more", "b/one"):
             (self.root / name / "script.jsonl").write_text("")
 
     def chosen(self, *names):
-        return [play.title(session) for session in play.sessions_named(names, self.root)]
+        return [each.title for each in play.chosen(names, session.sessions_below(self.root))]
 
-    def test_names_choose_sessions_and_subjects(self):
-        self.assertEqual(["a/one", "a/two", "b/one"], self.chosen())
-        self.assertEqual(["a/one", "a/two"], self.chosen("a"))
-        self.assertEqual(["b/one", "a/two"], self.chosen("b/one", "a/two"))
+    def test_names_choose_subjects_sessions_and_cases(self):
+        self.assertEqual(["a/one", "a/one-more", "b/one/x", "b/one/y"], self.chosen())
+        self.assertEqual(["a/one", "a/one-more"], self.chosen("a"))
+        self.assertEqual(["b/one/x", "b/one/y", "a/one"], self.chosen("b/one", "a/one"))
+        self.assertEqual(["b/one/y"], self.chosen("b/one/y"))
 
     def test_an_unknown_name_ends_the_player(self):
         with self.assertRaises(SystemExit):

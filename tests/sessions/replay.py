@@ -106,8 +106,7 @@ def object_of(line):
     return value if isinstance(value, dict) else {}
 
 
-def play(command, script, folder):
-    text = folder.named(script.read_text(encoding="utf-8"))
+def play(command, text, folder):
     environment = dict(os.environ, **folder.runner.environment)
     with tempfile.TemporaryFile() as complaints:
         with subprocess.Popen(command, stdin=subprocess.PIPE, stdout=subprocess.PIPE,
