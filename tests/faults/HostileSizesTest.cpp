@@ -19,10 +19,6 @@ std::string Repeated(const std::string& piece, std::size_t times) {
   return text;
 }
 
-std::string EqualVehicles(std::size_t count) {
-  return Repeated(VehicleLineOf("BUS") + "\r\n", count);
-}
-
 std::string ColorsWith(int colors, std::size_t pairs) {
   return "col\r\n" + Repeated("1,2,3\t\t\t\t# 0 c\r\n", static_cast<std::size_t>(colors)) +
          "end\r\ncar\r\nbus" + Repeated(", 0, 0", pairs) + "\r\nend\r\n";
@@ -39,18 +35,6 @@ class HostileSizesTest : public ::testing::Test {
 
   TestSession test;
 };
-
-TEST_F(HostileSizesTest, EqualNamesMakeARecordForEachOtherUpToTheCountersEnd) {
-  test.OpenHandling(EqualVehicles(181));
-  EXPECT_EQ(test.LastShown(), "normal");
-  EXPECT_EQ(test.vars.Cars.Count(), 181 * 181);
-  EXPECT_EQ(test.main.cmbAutos.Count(), 181);
-}
-
-TEST_F(HostileSizesTest, OneEqualNameMoreOverflows) {
-  test.OpenHandling(EqualVehicles(182));
-  ExpectReset(kOverflow);
-}
 
 TEST_F(HostileSizesTest, NamesThatBeginOneAnotherOverflowTheRecordsAndNotTheIndex) {
   std::string text;
@@ -113,29 +97,12 @@ TEST_F(HostileSizesTest, AVehicleWithAsManyPairsAsAreCountedShowsThemAll) {
   EXPECT_EQ(test.main.lstCarColors.Count(), 16383);
 }
 
-TEST_F(HostileSizesTest, AVehicleWithOnePairMoreOverflows) {
-  test.OpenColors(ColorsWith(1, 16384));
-  ExpectReset(kOverflow);
-}
-
 // Vehicle lines are counted together with all lines in front of them.
 TEST_F(HostileSizesTest, APaletteFillsTheLinesThatAreCounted) {
   test.OpenColors(ColorsWith(32762, 16000));
   EXPECT_EQ(test.LastShown(), "normal");
   EXPECT_EQ(test.main.lstColors.Count(), 32762);
   EXPECT_EQ(test.main.cmbColor2.Count(), 32762);
-}
-
-TEST_F(HostileSizesTest, APaletteOfAsManyColorsAsAreCountedLeavesNoLineForAVehicle) {
-  test.OpenColors(ColorsWith(32767, 1));
-  ExpectReset(kOverflow);
-  EXPECT_EQ(test.main.lstColors.Count(), 32767);
-}
-
-TEST_F(HostileSizesTest, OneColorMoreOverflowsThePalette) {
-  test.OpenColors(ColorsWith(32768, 1));
-  ExpectReset(kOverflow);
-  EXPECT_EQ(test.main.lstColors.Count(), 32768);
 }
 
 }  // namespace
