@@ -21,17 +21,8 @@ std::vector<FileCall> CallsOf(const FaultCommand& command);
 // to a later one.
 std::vector<Fault> FaultsOf(const std::vector<FileCall>& calls, std::size_t index);
 
-// What the session shows, holds and has on disk behind the command, as ten cells:
-//   all boxes, dialogs and pointers in order, and the end of the program
-//   the tables, each before a "/" and its snapshot: names or keys with the one value that is edited
-//   IsSaved: "saved" or "pending"
-//   CurrentFile, without its folder
-//   the commands and tab groups that are enabled
-//   the rows of cmbAutos
-//   the file of the picture on screen
-//   the first two entries of the language table
-//   the settings that differ from before the command
-//   the files that differ from before the command
+// What the session shows, holds and has on disk behind the command: the ten cells of docs/faults.md
+// behind the fault, in its order and words.
 // `call` counts from 1; 0 lets nothing go wrong.
 std::vector<std::string> OutcomeOf(const FaultCommand& command, int call, Fault fault);
 
