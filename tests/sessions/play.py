@@ -8,7 +8,7 @@ session ("language/full-table") or of a subject ("language"). Without a mode eac
 in both. --accept writes down what came out, for review, from the first mode that is played; it needs
 names, so that no session is accepted unseen. --runner wine plays a replay that was built for
 Windows; the separators in paths are then left out of the comparison. The scripts that the replay must
-refuse are no folders but the table of refused.py, the subject "refused".
+refuse are no folders but the rows of refused.py: "refused/1" and so on.
 
 A session is the folder SUBJECT/SESSION:
   script.jsonl   what is played

@@ -217,7 +217,7 @@ class RefusedScripts(unittest.TestCase):
     LINE = "dance"
 
     def play(self, reason, program):
-        row = refused.Refused((self.LINE,), reason)
+        row = refused.Refused("refused/1", (self.LINE,), reason)
         return "\n".join(row.differences([sys.executable, "-c", program],
                                          runner.RUNNERS["native"], False))
 

@@ -56,12 +56,9 @@ TABLE = [
 
 @dataclass(frozen=True)
 class Refused:
+    title: str
     lines: tuple
     reason: str
-
-    @property
-    def title(self):
-        return f"refused/{self.lines[-1]}"
 
     def differences(self, command, runner, _):
         """Plays it; what came out otherwise than expected, as lines of a report."""
@@ -69,7 +66,8 @@ class Refused:
         with Folder([], runner) as folder:
             before = folder.files()
             outcome = play([*command, "--app", folder.name("app")], script, folder)
-            return [*self.differences_of(outcome), *["files differ"] * (folder.files() != before)]
+            faults = [*self.differences_of(outcome), *["files differ"] * (folder.files() != before)]
+        return [*self.lines, *faults] if faults else []
 
     def differences_of(self, outcome):
         expected = f"line {len(self.lines)}, {self.lines[-1]}: {self.reason}"
@@ -80,4 +78,5 @@ class Refused:
             yield f"exit code {outcome.exit_code}, not {EXIT_CODE}"
 
 
-REFUSED = [Refused((*before, line), reason) for before, line, reason in TABLE]
+REFUSED = [Refused(f"refused/{row}", (*before, line), reason)
+           for row, (before, line, reason) in enumerate(TABLE, 1)]
