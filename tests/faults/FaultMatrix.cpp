@@ -9,6 +9,12 @@ namespace {
 
 using Cells = std::vector<std::string>;
 
+constexpr const char* kColumns =
+    "| call | fault | shows | tables | edits | open file | enabled | vehicles | picture | texts | "
+    "settings | disk |";
+constexpr const char* kRule =
+    "| --- | --- | --- | --- | --- | --- | --- | --- | --- | --- | --- | --- |";
+
 // A row of the page: some faults of one call that come to the same.
 struct FaultRow {
   std::string call;
@@ -50,10 +56,7 @@ std::vector<FaultRow> RowsOf(const FaultCommand& command, int call, const std::s
 
 std::vector<std::string> FaultSectionOf(const FaultCommand& command) {
   const Cells faultless = OutcomeOf(command, 0, Fault::None);
-  Cells lines = {std::string("## To ") + command.name, "",
-                 "| call | fault | shows | tables | edits | open file | enabled | vehicles | "
-                 "picture | texts | settings | disk |",
-                 "| --- | --- | --- | --- | --- | --- | --- | --- | --- | --- | --- | --- |",
+  Cells lines = {std::string("## To ") + command.name, "", kColumns, kRule,
                  TextOf({"-", NameOf(Fault::None), faultless})};
   const std::vector<FileCall> calls = CallsOf(command);
   for (std::size_t i = 0; i < calls.size(); ++i) {
