@@ -1,7 +1,7 @@
 #include "core/Failure.h"
 #include "forms/qt/FileDialogs.h"
+#include "forms/qt/WindowShell.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -52,7 +52,7 @@ QStringList NameFilters(const std::string& filter) {
 
 // A file that isn't there can be chosen in the open dialog too; what to do then is the program's.
 void RunFileDialog(FileDialog& dialog, QFileDialog::AcceptMode mode, QString& directory) {
-  QFileDialog shown(QApplication::activeWindow());
+  QFileDialog shown(WindowInUse());
   shown.setAcceptMode(mode);
   shown.setFileMode(QFileDialog::AnyFile);
   Preset(shown, dialog, directory);

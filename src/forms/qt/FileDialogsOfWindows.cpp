@@ -3,6 +3,7 @@
 #include "core/Failure.h"
 #include "core/windows/Text.h"
 #include "forms/qt/FileDialogs.h"
+#include "forms/qt/WindowShell.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -89,7 +90,7 @@ void RunFileDialog(FileDialog& dialog, QFileDialog::AcceptMode mode, QString& di
 
   OPENFILENAMEW request{};
   request.lStructSize = sizeof(request);
-  request.hwndOwner = HandleOf(QApplication::activeWindow());
+  request.hwndOwner = HandleOf(WindowInUse());
   request.lpstrFilter = filters.c_str();
   request.nFilterIndex = static_cast<DWORD>(std::max(dialog.filterIndex, 0));
   request.lpstrFile = file.data();

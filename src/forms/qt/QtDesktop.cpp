@@ -4,6 +4,7 @@
 #include "forms/qt/PictureFile.h"
 #include "forms/qt/QtText.h"
 #include "forms/qt/Shell.h"
+#include "forms/qt/WindowShell.h"
 
 #include <QApplication>
 
@@ -18,8 +19,7 @@ bool Ask(QMessageBox::Icon icon, const std::string& text) {
 
 QMessageBox::StandardButton ShowBox(QMessageBox::Icon icon, const std::string& text,
                                     QMessageBox::StandardButtons buttons) {
-  QMessageBox box(icon, QCoreApplication::applicationName(), "", buttons,
-                  QApplication::activeWindow());
+  QMessageBox box(icon, QCoreApplication::applicationName(), "", buttons, WindowInUse());
   box.setTextFormat(Qt::PlainText);
   box.setText(ShownMessage(text));
   return static_cast<QMessageBox::StandardButton>(box.exec());

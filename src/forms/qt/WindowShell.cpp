@@ -2,6 +2,7 @@
 
 #include "forms/qt/QtText.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QShortcut>
 
@@ -28,6 +29,15 @@ void WindowShell::Follow() {
 void WindowShell::closeEvent(QCloseEvent* event) {
   edge_.Enter([this] { Run(window_.closeRequested); });
   event->setAccepted(!window_.IsVisible());
+}
+
+QWidget* WindowInUse() {
+  if (QApplication::activeWindow() != nullptr) return QApplication::activeWindow();
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    const bool isMain = dynamic_cast<WindowShell*>(window) != nullptr && !window->parentWidget();
+    if (isMain && window->isVisible()) return window;
+  }
+  return nullptr;
 }
 
 std::string WindowShell::Difference() const {

@@ -32,4 +32,8 @@ class WindowShell : public QWidget {
   EventEdge& edge_;
 };
 
+// What a box or dialog belongs to: the active window or else, if it is shown, the one that owns the
+// others. No window is active just after a box has gone, or while another program is used.
+QWidget* WindowInUse();
+
 }  // namespace wheelwright
