@@ -49,6 +49,7 @@ TEST(Language, EachFileIsARowWithoutItsLastFourCharacters) {
   AddLanguage(s, "Zwei.alt", "b");
   s.files.contents["/app/Drei.txt"] = "c";
   s.files.contents["/app/lng"] = "d";
+  s.files.contents["/app/Loud.LNG"] = "f";
   s.files.contents["/app/sub/Vier.lng"] = "e";
   s.main.cmbSprache.AddRow("left over");
   DiscoverLanguages(s.session);

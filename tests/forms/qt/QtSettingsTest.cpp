@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
 #include <QSettings>
 #include <QTemporaryDir>
 
@@ -20,6 +21,14 @@ class QtSettingsTest : public ::testing::Test {
 
 TEST_F(QtSettingsTest, WhatWasNeverSetIsNothing) {
   EXPECT_EQ(QtSettings().Get("Settings", "Language"), std::nullopt);
+}
+
+TEST_F(QtSettingsTest, ATextIsOnDiskAsSoonAsItIsSet) {
+  QtSettings settings;
+  settings.Set("Settings", "Language", "English");
+  QFile file(folder.filePath("Wheelwright/Wheelwright.conf"));
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  EXPECT_EQ(file.readAll(), "[Settings]\nLanguage=English\n");
 }
 
 TEST_F(QtSettingsTest, ATextIsThereForTheNextRun) {
