@@ -13,7 +13,7 @@ import sys
 
 LAYERS = ["core", "core/posix", "core/windows", "screen", "gamefiles", "editor", "catalogue",
           "exchange", "language", "forms", "forms/qt"]
-TOOLKIT_FOLDERS = ["src/forms/qt", "src/main.cpp", "tools", "tests/forms/qt"]
+TOOLKIT_FOLDERS = ["src/forms/qt", "src/main.cpp", "tools", "tests/forms/qt", "tests/program"]
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
 

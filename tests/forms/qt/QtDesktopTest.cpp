@@ -73,14 +73,6 @@ TEST(QtDesktopTest, ThePointerIsSetOnceAndGivenBack) {
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
-TEST(QtDesktopTest, TheEndLeavesTheEventLoop) {
-  QtDesktop desktop;
-  EXPECT_FALSE(desktop.Ended());
-  QTimer::singleShot(0, [&] { desktop.EndProgram(); });
-  EXPECT_EQ(QApplication::exec(), 0);
-  EXPECT_TRUE(desktop.Ended());
-}
-
 // Takes what would go to the desktop's own handler of files.
 class ShellHand : public QObject {
   Q_OBJECT
