@@ -8,7 +8,9 @@ namespace wheelwright {
 // A name may hold anything, the numbers hold no blank: they stand behind the last one.
 std::optional<std::array<int, 3>> ColorInLabel(const std::string& label) {
   constexpr int kMost = 255;
-  const char* at = label.data() + label.rfind(' ') + 1;
+  const std::size_t blank = label.rfind(' ');
+  if (blank == std::string::npos) return std::nullopt;
+  const char* at = label.data() + blank + 1;
   const char* const end = label.data() + label.size();
   std::array<int, 3> color{};
   for (std::size_t i = 0; i < color.size(); ++i) {

@@ -34,9 +34,9 @@ TEST(PaletteLabelTest, ToldComponentsAreCutToTheRangeOfAColor) {
 }
 
 TEST(PaletteLabelTest, AnyOtherTextTellsNoColor) {
-  for (const char* text : {"", "black", "x - ", "x - 1", "x - 1,2", "x - 1,2,", "x - 1,2,3,4",
-                           "x - 1,2,3 ", "x - 1;2;3", "x - 1,,3", "x - 1,2,red", "x - 1,2,3red",
-                           "x - +1,2,3", "x - 1,2,99999999999"}) {
+  for (const char* text : {"", "black", "1,2,3", "x - ", "x - 1", "x - 1,2", "x - 1,2,",
+                           "x - 1,2,3,4", "x - 1,2,3 ", "x - 1;2;3", "x - 1,,3", "x - 1,2,red",
+                           "x - 1,2,3red", "x - +1,2,3", "x - 1,2,99999999999"}) {
     EXPECT_EQ(ColorInLabel(text), std::nullopt) << text;
   }
 }
