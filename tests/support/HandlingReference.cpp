@@ -7,6 +7,8 @@
 namespace wheelwright::testing {
 namespace {
 
+using Rows = std::vector<ReportList::Row>;
+
 constexpr std::size_t kHead = 14;
 
 std::string CutBlanks(std::string text) {
@@ -23,6 +25,22 @@ bool HoldsInAnyCase(const std::string& text, const std::string& part) {
   return Holds(FoldedCase(text), FoldedCase(part));
 }
 
+void AddRow(const Tokens& tokens, const std::string& caption, const std::string& problem,
+            Rows& rows) {
+  rows.push_back({tokens.empty() ? "0.0" : tokens[0], caption, problem});
+}
+
+std::string ParsedToken(const Tokens& tokens, std::size_t index, const FrmMain& captions,
+                        Rows& rows) {
+  const TokenRule& rule = kTokenRules[index];
+  if (index >= tokens.size()) return rule.missing;
+  const std::string& token = tokens[index];
+  const std::string caption = rule.label == nullptr ? "" : (captions.*rule.label).Caption();
+  if (rule.rule == Rule::Word && IsNumeric(token)) AddRow(tokens, caption, "E104", rows);
+  if (rule.rule == Rule::Number && !IsNumeric(token)) AddRow(tokens, caption, "E105", rows);
+  return token;
+}
+
 class PlainReader {
  public:
   explicit PlainReader(const FrmMain& captions) : captions_(captions) {}
@@ -30,11 +48,13 @@ class PlainReader {
   PlainHandling Read(const std::string& text) {
     const std::vector<std::string> lines = PlainLines(text);
     for (const std::string& line : lines) FirstPass(line);
+    const bool windowShown = !read_.rows.empty();
     read_.rows.clear();
     read_.records.assign(1, Car{});
     for (const std::string& line : lines) {
       if (read_.failure == 0) SecondPass(line.substr(0, line.find(';')));
     }
+    read_.windowShown = windowShown || !read_.rows.empty();
     return read_;
   }
 
@@ -43,7 +63,7 @@ class PlainReader {
     const std::string head = line.substr(0, kHead);
     const bool marked = head.find_first_of(";%$!") != std::string::npos;
     if (line.size() > kHead && !marked) {
-      AddName(ParsedToken(PlainTokens(CutBlanks(head)), 0));
+      AddName(ParsedToken(PlainTokens(CutBlanks(head)), 0, captions_, read_.rows));
       return;
     }
     const auto semicolon = head.find(';');
@@ -80,12 +100,7 @@ class PlainReader {
 
   void MakeRecord(const Tokens& tokens) {
     if (made_ > 0) read_.records.emplace_back();
-    if (tokens.size() != 33) {
-      AddRow(tokens, "", "E102: " + std::to_string(tokens.size()) + " E103");
-    }
-    Tokens parsed;
-    for (std::size_t index = 0; index < 33; ++index) parsed.push_back(ParsedToken(tokens, index));
-    read_.records[made_] = CarOf(parsed);
+    read_.records[made_] = PlainRecord(tokens, captions_, read_.rows);
     ++made_;
   }
 
@@ -98,21 +113,6 @@ class PlainReader {
       return;
     }
     read_.records[index].LineKind = static_cast<std::int16_t>(kind);
-  }
-
-  std::string ParsedToken(const Tokens& tokens, std::size_t index) {
-    const TokenRule& rule = kTokenRules[index];
-    if (index >= tokens.size()) return rule.missing;
-    const std::string& token = tokens[index];
-    const std::string caption = rule.label == nullptr ? "" : (captions_.*rule.label).Caption();
-    if (rule.rule == Rule::Word && IsNumeric(token)) AddRow(tokens, caption, "E104");
-    if (rule.rule == Rule::Number && !IsNumeric(token)) AddRow(tokens, caption, "E105");
-    return token;
-  }
-
-  void AddRow(const Tokens& tokens, const std::string& caption, const std::string& problem) {
-    read_.rows.push_back({tokens.empty() ? "0.0" : tokens[0], caption, problem});
-    read_.windowShown = true;
   }
 
   const FrmMain& captions_;
@@ -159,6 +159,17 @@ Tokens PlainTokens(std::string line) {
     line = CutBlanks(line.substr(token.size()));
   }
   return tokens;
+}
+
+Car PlainRecord(const std::vector<std::string>& tokens, const FrmMain& captions, Rows& rows) {
+  if (tokens.size() != 33) {
+    AddRow(tokens, "", "E102: " + std::to_string(tokens.size()) + " E103", rows);
+  }
+  Tokens parsed;
+  for (std::size_t index = 0; index < 33; ++index) {
+    parsed.push_back(ParsedToken(tokens, index, captions, rows));
+  }
+  return CarOf(parsed);
 }
 
 PlainHandling ReadPlainly(const std::string& text, const FrmMain& captions) {

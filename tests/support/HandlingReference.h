@@ -29,6 +29,10 @@ std::vector<std::string> PlainLines(const std::string& text);
 // The tokens of a line between its blanks and tabs.
 std::vector<std::string> PlainTokens(std::string line);
 
+// The record of a line's tokens, and the load problems that they give.
+Car PlainRecord(const std::vector<std::string>& tokens, const FrmMain& captions,
+                std::vector<ReportList::Row>& rows);
+
 // Reads with the captions of this window and with a language whose entry n is "Ennn".
 PlainHandling ReadPlainly(const std::string& text, const FrmMain& captions);
 

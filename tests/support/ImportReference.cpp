@@ -1,8 +1,7 @@
 #include "support/ImportReference.h"
 
-#include "gamefiles/HandlingLine.h"
-#include "screen/HandlingFields.h"
 #include "support/HandlingReference.h"
+#include "support/VehicleTokens.h"
 
 #include <algorithm>
 
@@ -17,21 +16,18 @@ void PlainImport(Session& session, const std::string& text) {
     while (!name.empty() && name.back() == ' ') name.pop_back();
     if (std::count(list.Rows().begin(), list.Rows().end(), name) == 0) list.AddRow(name);
   }
-  int next = session.vars.Cars.UpperBound() + 1;
+  Table<Car>& cars = session.vars.Cars;
+  int next = cars.UpperBound() + 1;
   for (const std::string& wholeLine : PlainLines(text)) {
-    std::string line(wholeLine);
+    const Tokens tokens = PlainTokens(wholeLine);
+    std::string line = wholeLine;
     for (const std::string& row : list.Rows()) {
       if (line.substr(0, row.size()) != row) continue;
-      session.vars.Cars.ExtendTo(next);
-      const int count = CountSpaceFields(line);
-      if (count != 33) {
-        const std::string vehicle = count == 0 ? "0.0" : line.substr(0, line.find(' '));
-        session.error.lstErrors.AddRow({vehicle, "", "E102: " + std::to_string(count) + " E103"});
-      }
-      for (int token = 0; token < 33; ++token) {
-        session.vars.Cars.At(next).*kHandlingFields[static_cast<std::size_t>(token)].value =
-            ParseHandlingToken(session, line, token);
-      }
+      cars.ExtendTo(next);
+      std::vector<ReportList::Row> problems;
+      cars.At(next) = PlainRecord(tokens, session.main, problems);
+      for (const ReportList::Row& problem : problems) session.error.lstErrors.AddRow(problem);
+      line = Joined(tokens);
       ++next;
     }
   }

@@ -1,5 +1,5 @@
-// The import once more, as one would tell it: row by row, line by line. The laws hold the two
-// against each other.
+// The import once more, as one would tell it: row by row, line by line, with the tokens of the
+// handling file's reference. The laws hold the two against each other.
 #pragma once
 
 #include "screen/Session.h"
