@@ -155,6 +155,15 @@ TEST(PairEdits, APairThatIsThereAlreadyIsAddedOnceMore) {
   EXPECT_EQ(test.main.lstCarColors.Rows(), (Texts{"Rot - Rot", "Rot - Rot", "Rot - Rot"}));
 }
 
+TEST(PairEdits, OnlyTheRangeOfAnIndexLimitsTheNumberOfPairs) {
+  Opened test("bus,0,1\r\n");
+  constexpr int kMost = 32768;
+  for (int pairs = 1; pairs < kMost; ++pairs) test.main.cmdAddColor.ClickByHand();
+  EXPECT_EQ(test.main.lstCarColors.Count(), kMost);
+  EXPECT_EQ(NumberThrownBy([&] { test.main.cmdAddColor.ClickByHand(); }), 6);
+  EXPECT_EQ(test.vars.CarColors.At(0).Color1.size(), std::size_t{kMost});
+}
+
 TEST(PairEdits, ThePairGoesToTheVehicleOnScreen) {
   Opened test("bus,0,1\r\ncab,1,1\r\n");
   test.main.cmbAutos.ChooseByHand(1);

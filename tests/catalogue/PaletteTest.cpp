@@ -206,8 +206,12 @@ TEST(Palette, WithoutRowsDeletingDoesNothingWithoutAWord) {
   EXPECT_TRUE(test.vars.IsSaved);
 }
 
-TEST(Palette, ANewColorStandsLastIsChosenAndIsReported) {
+TEST(Palette, ANewColorStandsLastIsChosenAndIsThenReported) {
   Opened test(kThree);
+  test.main.lstColors.clicked = [&, show = test.main.lstColors.clicked] {
+    show();
+    test.desktop.shown.emplace_back("chosen");
+  };
   test.main.cmdNewColor.ClickByHand();
   EXPECT_EQ(TextsOf(test.vars.Colors),
             (Texts{"0: 1,2,3 oak", "1: 4,5,6 elm", "2: 7,8,9 ash", "3: 0,128,255 Color3"}));
@@ -215,7 +219,7 @@ TEST(Palette, ANewColorStandsLastIsChosenAndIsReported) {
             (Texts{"oak - 1,2,3", "elm - 4,5,6", "ash - 7,8,9", "Color3 - 0,128,255"}));
   EXPECT_EQ(test.main.lstColors.Row(), 3);
   EXPECT_EQ(test.Shown(), (Texts{"Color3", "0", "128", "255"}));
-  EXPECT_EQ(test.desktop.shown, Texts{"information: E154"});
+  EXPECT_EQ(test.desktop.shown, (Texts{"chosen", "information: E154"}));
   EXPECT_FALSE(test.vars.IsSaved);
 }
 

@@ -94,13 +94,16 @@ TEST(ExportVehicles, WritesTheWholeFile) {
             ";the end\r\n");
 }
 
-TEST(ExportVehicles, SaysSoAndUnloadsTheWindow) {
+TEST(ExportVehicles, SaysSoAndThenUnloadsTheWindow) {
   TestSession test;
   test.OpenHandling(kTwoVehicles);
   ChooseAllForExport(test);
   test.desktop.shown.clear();
+  test.exporter.notice = [&] {
+    if (!test.exporter.IsVisible()) test.desktop.shown.emplace_back("gone");
+  };
   ExportChosen(test);
-  EXPECT_EQ(test.desktop.shown, (Shown{"save", "information: E113"}));
+  EXPECT_EQ(test.desktop.shown, (Shown{"save", "information: E113", "gone"}));
   EXPECT_FALSE(test.exporter.IsVisible());
   test.main.cmdExportCar.ClickByHand();
   EXPECT_EQ(test.exporter.lst1.Rows(), (Shown{"BUS", "TAXI"}));

@@ -1,9 +1,9 @@
 #include "languages/RoomFaults.h"
 
-#include "core/CodePage.h"
 #include "editor/HandlingRecord.h"
 #include "language/ApplyLanguage.h"
 #include "languages/Sightings.h"
+#include "replay/OnScreen.h"
 #include "replay/RealScreen.h"
 #include "screen/HandlingFields.h"
 
@@ -82,16 +82,6 @@ class RoomCheck {
   std::vector<Fault> faults_;
 };
 
-QString AsRead(const std::string& caption) {
-  const std::string text = ToUnicode(caption);
-  std::string read;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text[i] == '&' && i + 1 < text.size()) ++i;
-    read += text[i];
-  }
-  return QString::fromStdString(read);
-}
-
 void RoomCheck::CheckProblems() {
   for (const View& view : AllViews()) {
     for (const Sighting& sighting : view) {
@@ -111,7 +101,7 @@ void RoomCheck::CheckProblems() {
 
 void RoomCheck::CheckColumn(Column column, std::size_t entry, const std::string& text) {
   const int margins = 2 * (Report().style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
-  AddTooWide(entry, Report().fontMetrics().horizontalAdvance(AsRead(text)),
+  AddTooWide(entry, Report().fontMetrics().horizontalAdvance(replay::AsRead(text)),
              Report().header()->sectionSize(column) - margins,
              "where the window of load problems has room for ");
 }
@@ -120,7 +110,7 @@ void RoomCheck::CheckColumn(Column column, std::size_t entry, const std::string&
 void RoomCheck::CheckHeader(int column, std::size_t entry) {
   QFont font = Report().font();
   font.setPointSizeF(2 * font.pointSizeF());
-  AddTooWide(entry, QFontMetrics(font).horizontalAdvance(AsRead(entries_[entry])),
+  AddTooWide(entry, QFontMetrics(font).horizontalAdvance(replay::AsRead(entries_[entry])),
              Report().header()->sectionSize(column),
              "in a font of twice the size, where its column has room for ");
 }

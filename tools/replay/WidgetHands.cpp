@@ -1,6 +1,7 @@
 #include "replay/WidgetHands.h"
 
 #include "forms/qt/RowView.h"
+#include "replay/OnScreen.h"
 #include "replay/SentEvents.h"
 
 #include <algorithm>
@@ -131,6 +132,8 @@ void WidgetHands::Shoot(Window& window, const std::string& file) {
   }
 }
 
-std::string WidgetHands::Difference(const Control& control) { return windows_.Difference(control); }
+std::string WidgetHands::Difference(const Control& control) {
+  return DifferenceOnScreen(control, windows_.Of(control));
+}
 
 }  // namespace wheelwright::replay

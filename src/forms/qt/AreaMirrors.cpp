@@ -15,8 +15,6 @@ QColor ColorOf(const Swatch& swatch) {
   return {red, green, blue};
 }
 
-QString Name(const QColor& color) { return color.isValid() ? color.name() : QString("none"); }
-
 }  // namespace
 
 PictureMirror::PictureMirror(Picture& picture, EventEdge& edge, QWidget* frame)
@@ -35,17 +33,6 @@ void PictureMirror::Follow(Aspect aspect) {
   widget_.MoveTo({picture_.Left(), picture_.Top()});
 }
 
-std::string PictureMirror::ContentDifference() const {
-  const std::string file = Compare("file", widget_.File(), FileOf(picture_));
-  if (!file.empty()) return file;
-  const QImage& image = widget_.Image();
-  const std::string width = Compare("width", image.width(), picture_.Width());
-  if (!width.empty()) return width;
-  const std::string height = Compare("height", image.height(), picture_.Height());
-  if (!height.empty()) return height;
-  return widget_.Place() == QPointF(picture_.Left(), picture_.Top()) ? "" : "another place";
-}
-
 SwatchMirror::SwatchMirror(Swatch& swatch, EventEdge& edge, QWidget* parent)
     : Mirror(swatch, edge, *new ColorArea(parent)),
       swatch_(swatch),
@@ -55,10 +42,6 @@ SwatchMirror::SwatchMirror(Swatch& swatch, EventEdge& edge, QWidget* parent)
 
 void SwatchMirror::Follow(Aspect aspect) {
   if (aspect == Aspect::Content) widget_.Fill(ColorOf(swatch_));
-}
-
-std::string SwatchMirror::ContentDifference() const {
-  return Compare("color", Name(widget_.Color()), Name(ColorOf(swatch_)));
 }
 
 }  // namespace wheelwright

@@ -16,7 +16,6 @@ class PictureMirror : public Mirror {
 
  protected:
   void Follow(Aspect aspect) override;
-  std::string ContentDifference() const override;
 
  private:
   const Picture& picture_;
@@ -29,7 +28,6 @@ class SwatchMirror : public Mirror {
 
  protected:
   void Follow(Aspect aspect) override;
-  std::string ContentDifference() const override;
 
  private:
   const Swatch& swatch_;

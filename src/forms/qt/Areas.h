@@ -18,10 +18,6 @@ class PictureArea : public QWidget {
   void Show(const QString& file);
   void MoveTo(QPointF place);
 
-  const QString& File() const { return file_; }
-  const QImage& Image() const { return image_; }
-  QPointF Place() const { return place_; }
-
  protected:
   void paintEvent(QPaintEvent* event) override;
 
@@ -38,7 +34,6 @@ class ColorArea : public QFrame {
   explicit ColorArea(QWidget* parent);
 
   void Fill(const QColor& color);
-  const QColor& Color() const { return color_; }
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override { return sizeHint(); }

@@ -54,10 +54,6 @@ void LabelMirror::Follow(Aspect aspect) {
   spoken_.Say(WithoutMarks(ShownCaption(label_.Caption())));
 }
 
-std::string LabelMirror::ContentDifference() const {
-  return Compare("caption", widget_.text(), Meant());
-}
-
 FrameMirror::FrameMirror(Frame& frame, EventEdge& edge, QWidget* parent)
     : Mirror(frame, edge, *new QGroupBox(parent)),
       frame_(frame),
@@ -72,22 +68,15 @@ void FrameMirror::Follow(Aspect aspect) {
   spoken_.Say(WithoutMarks(caption));
 }
 
-std::string FrameMirror::ContentDifference() const {
-  return Compare("caption", widget_.title(), ShownCaption(frame_.Caption()));
-}
-
 PictureFrameMirror::PictureFrameMirror(Frame& frame, EventEdge& edge, QWidget* parent)
-    : Mirror(frame, edge, *new QFrame(parent)), widget_(static_cast<QFrame&>(Widget())) {
-  widget_.setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
-  const int border = 2 * widget_.frameWidth();
-  widget_.setBackgroundRole(QPalette::Window);
-  widget_.setAutoFillBackground(true);
-  widget_.setFixedSize(kPictureFrameWidth + border, kPictureFrameHeight + border);
+    : Mirror(frame, edge, *new QFrame(parent)) {
+  auto& widget = static_cast<QFrame&>(Widget());
+  widget.setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+  const int border = 2 * widget.frameWidth();
+  widget.setBackgroundRole(QPalette::Window);
+  widget.setAutoFillBackground(true);
+  widget.setFixedSize(kPictureFrameWidth + border, kPictureFrameHeight + border);
   FollowAll();
-}
-
-std::string PictureFrameMirror::ContentDifference() const {
-  return Compare("inner width", widget_.contentsRect().width(), kPictureFrameWidth);
 }
 
 ButtonMirror::ButtonMirror(Button& button, EventEdge& edge, QWidget* parent)
@@ -102,10 +91,6 @@ ButtonMirror::ButtonMirror(Button& button, EventEdge& edge, QWidget* parent)
 
 void ButtonMirror::Follow(Aspect aspect) {
   if (aspect == Aspect::Content) widget_.setText(ShownCaption(button_.Caption()));
-}
-
-std::string ButtonMirror::ContentDifference() const {
-  return Compare("caption", widget_.text(), ShownCaption(button_.Caption()));
 }
 
 }  // namespace wheelwright

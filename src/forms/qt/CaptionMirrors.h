@@ -24,7 +24,6 @@ class LabelMirror : public Mirror {
 
  protected:
   void Follow(Aspect aspect) override;
-  std::string ContentDifference() const override;
 
  private:
   QString Meant() const;
@@ -44,7 +43,6 @@ class FrameMirror : public Mirror {
 
  protected:
   void Follow(Aspect aspect) override;
-  std::string ContentDifference() const override;
 
  private:
   Frame& frame_;
@@ -60,10 +58,6 @@ class PictureFrameMirror : public Mirror {
 
  protected:
   void Follow(Aspect /*aspect*/) override {}
-  std::string ContentDifference() const override;
-
- private:
-  QFrame& widget_;
 };
 
 class ButtonMirror : public Mirror {
@@ -72,7 +66,6 @@ class ButtonMirror : public Mirror {
 
  protected:
   void Follow(Aspect aspect) override;
-  std::string ContentDifference() const override;
 
  private:
   Button& button_;

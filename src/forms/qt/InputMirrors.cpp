@@ -86,10 +86,6 @@ void TextBoxMirror::Follow(Aspect aspect) {
   widget_.setCursorPosition(isBeingEdited_ ? static_cast<int>(before.size()) : 0);
 }
 
-std::string TextBoxMirror::ContentDifference() const {
-  return Compare("text", widget_.text(), Shown(box_.Text()));
-}
-
 CheckBoxMirror::CheckBoxMirror(CheckBox& box, EventEdge& edge, QWidget* parent)
     : Mirror(box, edge, *new AskingCheckBox(parent)),
       box_(box),
@@ -104,12 +100,6 @@ void CheckBoxMirror::Follow(Aspect aspect) {
   const QSignalBlocker blocker(widget_);
   widget_.setText(ShownCaption(box_.Caption()));
   widget_.setCheckState(ShownState(box_.State()));
-}
-
-std::string CheckBoxMirror::ContentDifference() const {
-  const std::string caption = Compare("caption", widget_.text(), ShownCaption(box_.Caption()));
-  if (!caption.empty()) return caption;
-  return Compare("check state", widget_.checkState(), ShownState(box_.State()));
 }
 
 ScrollBarMirror::ScrollBarMirror(ScrollBar& bar, EventEdge& edge, QWidget* parent)
@@ -134,10 +124,6 @@ void ScrollBarMirror::Follow(Aspect aspect) {
   if (aspect != Aspect::Content) return;
   const QSignalBlocker blocker(widget_);
   widget_.setValue(bar_.Value());
-}
-
-std::string ScrollBarMirror::ContentDifference() const {
-  return Compare("value", widget_.value(), bar_.Value());
 }
 
 }  // namespace wheelwright

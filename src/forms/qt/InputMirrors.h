@@ -16,7 +16,6 @@ class TextBoxMirror : public Mirror {
 
  protected:
   void Follow(Aspect aspect) override;
-  std::string ContentDifference() const override;
 
  private:
   void Edited(const QString& text);
@@ -32,7 +31,6 @@ class CheckBoxMirror : public Mirror {
 
  protected:
   void Follow(Aspect aspect) override;
-  std::string ContentDifference() const override;
 
  private:
   CheckBox& box_;
@@ -45,7 +43,6 @@ class ScrollBarMirror : public Mirror {
 
  protected:
   void Follow(Aspect aspect) override;
-  std::string ContentDifference() const override;
 
  private:
   void Moved(int value);

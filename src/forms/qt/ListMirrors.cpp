@@ -27,27 +27,6 @@ std::vector<int> ChosenRows(const RowList& list) {
   return list.Row() == RowList::kNoRow ? std::vector<int>{} : std::vector<int>{list.Row()};
 }
 
-QString Joined(const std::vector<int>& rows) {
-  QString text;
-  for (const int row : rows) text += QString::number(row) + " ";
-  return text;
-}
-
-// The texts that the widget's model gives, one a line.
-QString ShownRows(const QAbstractItemModel& model) {
-  QString text;
-  for (int row = 0; row < model.rowCount(); ++row) {
-    text += model.index(row, 0).data().toString() + "\n";
-  }
-  return text;
-}
-
-QString MeantRows(const RowList& list) {
-  QString text;
-  for (const std::string& row : list.Rows()) text += Shown(row) + "\n";
-  return text;
-}
-
 }  // namespace
 
 PickListMirror::PickListMirror(PickList& list, EventEdge& edge, QWidget* parent)
@@ -75,13 +54,6 @@ void PickListMirror::Follow(Aspect aspect) {
   if (aspect == Aspect::Rows) model_.RowsChanged();
   if (aspect == Aspect::Content) model_.TextsChanged();
   widget_.setCurrentIndex(list_.Row());
-}
-
-std::string PickListMirror::ContentDifference() const {
-  const std::string rows = Compare("rows", ShownRows(*widget_.model()), MeantRows(list_));
-  if (!rows.empty()) return rows;
-  const std::string text = Compare("text", widget_.currentText(), Shown(list_.Text()));
-  return text.empty() ? Compare("row", widget_.currentIndex(), list_.Row()) : text;
 }
 
 ListBoxMirror::ListBoxMirror(ListBox& list, EventEdge& edge, QWidget* parent)
@@ -131,12 +103,6 @@ void ListBoxMirror::Follow(Aspect aspect) {
   if (aspect != Aspect::Choice) bar.setValue(place);
 }
 
-std::string ListBoxMirror::ContentDifference() const {
-  const std::string rows = Compare("rows", ShownRows(*widget_.model()), MeantRows(list_));
-  if (!rows.empty()) return rows;
-  return Compare("chosen rows", Joined(widget_.SelectedRows()), Joined(ChosenRows(list_)));
-}
-
 MarkListMirror::MarkListMirror(MarkList& list, EventEdge& edge, QWidget* parent)
     : Mirror(list, edge, *new RowView(QAbstractItemView::ExtendedSelection, parent)),
       list_(list),
@@ -159,12 +125,6 @@ void MarkListMirror::Follow(Aspect aspect) {
   if (aspect == Aspect::Content) model_.TextsChanged();
   const std::vector<int> marked = list_.Marked();
   if (widget_.SelectedRows() != marked) widget_.SelectRows(marked);
-}
-
-std::string MarkListMirror::ContentDifference() const {
-  const std::string rows = Compare("rows", ShownRows(*widget_.model()), MeantRows(list_));
-  if (!rows.empty()) return rows;
-  return Compare("marked rows", Joined(widget_.SelectedRows()), Joined(list_.Marked()));
 }
 
 }  // namespace wheelwright

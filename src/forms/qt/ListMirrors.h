@@ -19,7 +19,6 @@ class PickListMirror : public Mirror {
 
  protected:
   void Follow(Aspect aspect) override;
-  std::string ContentDifference() const override;
 
  private:
   void Chosen(int row);
@@ -38,7 +37,6 @@ class ListBoxMirror : public Mirror {
 
  protected:
   void Follow(Aspect aspect) override;
-  std::string ContentDifference() const override;
 
  private:
   void SelectionChanged();
@@ -56,7 +54,6 @@ class MarkListMirror : public Mirror {
 
  protected:
   void Follow(Aspect aspect) override;
-  std::string ContentDifference() const override;
 
  private:
   void SelectionChanged();

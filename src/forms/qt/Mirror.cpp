@@ -31,26 +31,4 @@ void Mirror::FollowState() {
   if (widget_.isHidden() == control_.IsVisible()) widget_.setVisible(control_.IsVisible());
 }
 
-std::string Mirror::Difference() const {
-  const std::string state = StateDifference();
-  return state.empty() ? ContentDifference() : state;
-}
-
-std::string Mirror::StateDifference() const {
-  if (widget_.isHidden() == control_.IsVisible()) {
-    return Compare("visible", !widget_.isHidden(), control_.IsVisible());
-  }
-  return Compare("enabled", widget_.isEnabled(), control_.IsEnabledHere());
-}
-
-std::string Mirror::Compare(const char* what, const QString& shown, const QString& meant) {
-  if (shown == meant) return "";
-  return std::string(what) + " \"" + shown.toStdString() + "\" instead of \"" +
-         meant.toStdString() + "\"";
-}
-
-std::string Mirror::Compare(const char* what, int shown, int meant) {
-  return Compare(what, QString::number(shown), QString::number(meant));
-}
-
 }  // namespace wheelwright

@@ -6,10 +6,8 @@
 #include "screen/Control.h"
 
 #include <functional>
-#include <string>
 
 #include <QObject>
-#include <QString>
 #include <QWidget>
 
 namespace wheelwright {
@@ -24,14 +22,9 @@ class Mirror {
 
   QWidget& Widget() const { return widget_; }
 
-  // What the widget shows otherwise than the plain control says; empty if they agree.
-  std::string Difference() const;
-
  protected:
   // Brings the widget to what the plain control says; the state has been seen to already.
   virtual void Follow(Aspect aspect) = 0;
-  // The difference in everything but the state.
-  virtual std::string ContentDifference() const = 0;
 
   void FollowAll();
   // Does to the plain control what a person did to the widget.
@@ -39,14 +32,9 @@ class Mirror {
   // The receiver of the widget's signals: they end with the mirror.
   QObject* Receiver() { return &receiver_; }
 
-  // "" if both are the same, otherwise both, named.
-  static std::string Compare(const char* what, const QString& shown, const QString& meant);
-  static std::string Compare(const char* what, int shown, int meant);
-
  private:
   void Notice(Aspect aspect);
   void FollowState();
-  std::string StateDifference() const;
 
   Control& control_;
   EventEdge& edge_;

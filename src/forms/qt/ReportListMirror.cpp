@@ -50,7 +50,6 @@ ReportModel& ModelOf(const ReportList& list, QTreeView& widget) {
 
 ReportListMirror::ReportListMirror(ReportList& list, EventEdge& edge, QWidget* parent)
     : Mirror(list, edge, *new ReportView(parent)),
-      list_(list),
       widget_(static_cast<QTreeView&>(Widget())),
       model_(ModelOf(list, widget_)) {
   widget_.setRootIsDecorated(false);
@@ -70,23 +69,6 @@ void ReportListMirror::Follow(Aspect aspect) {
   if (aspect != Aspect::Content) return;
   model_.HeadersChanged();
   static_cast<ReportView&>(widget_).WidenForHeaders();
-}
-
-std::string ReportListMirror::ContentDifference() const {
-  const QAbstractItemModel& shown = *widget_.model();
-  std::string difference =
-      Compare("number of rows", shown.rowCount(), static_cast<int>(list_.Rows().size()));
-  for (int column = 0; difference.empty() && column < shown.columnCount(); ++column) {
-    const auto index = static_cast<std::size_t>(column);
-    difference = Compare("header", shown.headerData(column, Qt::Horizontal).toString(),
-                         WithoutMarks(ShownCaption(list_.Columns().at(index))));
-    for (int row = 0; difference.empty() && row < shown.rowCount(); ++row) {
-      difference =
-          Compare("cell", shown.index(row, column).data().toString(),
-                  ReportModel::CellText(list_.Rows()[static_cast<std::size_t>(row)], index));
-    }
-  }
-  return difference;
 }
 
 }  // namespace wheelwright

@@ -15,10 +15,8 @@ class ReportListMirror : public Mirror {
 
  protected:
   void Follow(Aspect aspect) override;
-  std::string ContentDifference() const override;
 
  private:
-  ReportList& list_;
   QTreeView& widget_;
   ReportModel& model_;
 };

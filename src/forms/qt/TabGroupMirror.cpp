@@ -43,12 +43,4 @@ void TabGroupMirror::Follow(Aspect aspect) {
   }
 }
 
-std::string TabGroupMirror::ContentDifference() const {
-  std::string difference = Compare("tab in front", widget_.currentIndex(), group_.Tab());
-  for (int tab = 0; difference.empty() && tab < widget_.count(); ++tab) {
-    difference = Compare("caption", widget_.tabText(tab), Meant(tab));
-  }
-  return difference;
-}
-
 }  // namespace wheelwright

@@ -23,7 +23,6 @@ class TabGroupMirror : public Mirror {
 
  protected:
   void Follow(Aspect aspect) override;
-  std::string ContentDifference() const override;
 
  private:
   void Clicked(int tab);

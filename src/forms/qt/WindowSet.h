@@ -22,9 +22,6 @@ class WindowSet {
   // The widget of a plain control of this session.
   QWidget& Of(const Control& control) const { return mirrors_.Of(control).Widget(); }
 
-  // What the screen shows otherwise than the plain control says; empty if they agree.
-  std::string Difference(const Control& control) const { return mirrors_.Of(control).Difference(); }
-
  private:
   // In this order, so that each goes before what it relies on: mirrors before widgets, windows
   // before their owner.

@@ -40,11 +40,4 @@ QWidget* WindowInUse() {
   return nullptr;
 }
 
-std::string WindowShell::Difference() const {
-  if (windowTitle() != ShownTitle(window_.Title())) {
-    return "title \"" + windowTitle().toStdString() + "\" instead of \"" + window_.Title() + "\"";
-  }
-  return isHidden() == window_.IsVisible() ? "shown or hidden otherwise" : "";
-}
-
 }  // namespace wheelwright

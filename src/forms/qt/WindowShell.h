@@ -4,9 +4,6 @@
 #include "forms/EventEdge.h"
 #include "screen/Control.h"
 
-#include <functional>
-#include <string>
-
 #include <QWidget>
 
 namespace wheelwright {
@@ -17,9 +14,6 @@ class WindowShell : public QWidget {
   // close box does.
   WindowShell(Window& window, EventEdge& edge, QWidget* owner);
   ~WindowShell() override;
-
-  // What the window shows otherwise than the plain one says; empty if they agree.
-  std::string Difference() const;
 
  protected:
   // Asks the plain window's handler; the window only goes if the plain one has gone.

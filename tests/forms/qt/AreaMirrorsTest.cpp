@@ -5,7 +5,9 @@
 #include "forms/qt/QtDesktop.h"
 #include "screen/MainWindow.h"
 
+#include <QBuffer>
 #include <QFile>
+#include <QImageReader>
 #include <QTemporaryDir>
 #include <QtEndian>
 
@@ -71,7 +73,6 @@ TEST_F(AreaMirrorsTest, AClearedPictureShowsNothing) {
   EXPECT_EQ(Difference(picture), "");
   picture.Clear();
   EXPECT_EQ(Difference(picture), "");
-  EXPECT_TRUE(static_cast<PictureArea&>(mirrors.Of(picture).Widget()).Image().isNull());
 }
 
 TEST_F(AreaMirrorsTest, AFileThatHasChangedIsReadAnew) {
@@ -91,6 +92,22 @@ TEST_F(AreaMirrorsTest, APictureIsToldByItsContentAndNotByItsName) {
   EXPECT_EQ(ReadPicture(Saved(Grid(30, 20), "bmp.jpg")).size(), QSize(30, 20));
   EXPECT_TRUE(ReadPicture(Saved(Grid(30, 20), "png.png")).isNull());
   EXPECT_TRUE(ReadPicture(Path("missing.bmp")).isNull());
+}
+
+// Cameras write beside a photo which way it was held; the pictures of vehicles are shown as stored.
+TEST_F(AreaMirrorsTest, APictureIsNotTurnedByTheMarkOfACamera) {
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  Grid(30, 20).save(&buffer, "JPG");
+  const QByteArray turnedByAQuarter = QByteArray::fromHex(
+      "ffe1 0022 457869660000 4d4d002a00000008 0001 0112 0003 00000001 00060000 00000000");
+  QFile file(folder.filePath("photo.jpg"));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write(bytes.insert(2, turnedByAQuarter));
+  file.close();
+  QImageReader marked(file.fileName());
+  EXPECT_EQ(marked.transformation(), QImageIOHandler::TransformationRotate90);
+  EXPECT_EQ(ReadPicture(Path("photo.jpg")).size(), QSize(30, 20));
 }
 
 TEST_F(AreaMirrorsTest, TheDesktopKnowsThePicturesOwnSize) {

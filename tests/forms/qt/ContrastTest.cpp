@@ -1,6 +1,8 @@
 // Whatever the colours of the desktop, everything can be read: measured on what is painted.
+#include "forms/qt/Desktops.h"
+#include "forms/qt/RealWindows.h"
 #include "forms/qt/Settle.h"
-#include "forms/qt/WindowWalk.h"
+#include "forms/qt/ViewChecks.h"
 #include "replay/DarkPalette.h"
 
 #include <cmath>
@@ -21,21 +23,6 @@ namespace {
 constexpr double kReadable = 4.5;
 // The same for what is a shape rather than a text.
 constexpr double kVisible = 3.0;
-
-// A desktop of other colours for as long as it lives; the windows are up already when it comes.
-class DesktopColors {
- public:
-  explicit DesktopColors(const QPalette& palette) : before_(QApplication::palette()) {
-    QApplication::setPalette(palette);
-    Settle();
-  }
-  DesktopColors(const DesktopColors&) = delete;
-  DesktopColors& operator=(const DesktopColors&) = delete;
-  ~DesktopColors() { QApplication::setPalette(before_); }
-
- private:
-  QPalette before_;
-};
 
 double Luminance(QRgb color) {
   const auto linear = [](int component) {
@@ -93,30 +80,14 @@ QRect TextPlace(const QWidget& widget) {
   return qobject_cast<const QPushButton*>(&widget) != nullptr ? inside : QRect();
 }
 
-class ContrastTest : public WindowWalk {
- protected:
-  void ExpectReadable(Window& plain) {
-    for (QWidget* widget : Showing(plain)) {
-      const QRect place = TextPlace(*widget);
-      if (place.isEmpty() || !widget->isEnabled()) continue;
-      EXPECT_GE(ContrastIn(*widget, place), kReadable) << widget->objectName().toStdString();
-    }
+void ExpectReadableTexts(const View& view) {
+  for (const Control* control : view.showing) {
+    QWidget& widget = view.Of(*control);
+    const QRect place = TextPlace(widget);
+    if (place.isEmpty() || !widget.isEnabled()) continue;
+    EXPECT_GE(ContrastIn(widget, place), kReadable) << control->Name();
   }
-};
-
-TEST_P(ContrastTest, EveryTextIsReadableOnTheSystemsOwnDesktop) {
-  Walk([this](Window& plain, QWidget&) { ExpectReadable(plain); });
 }
-
-TEST_P(ContrastTest, EveryTextIsReadableOnADarkDesktop) {
-  const DesktopColors dark(replay::DarkPalette());
-  Walk([this](Window& plain, QWidget&) { ExpectReadable(plain); });
-}
-
-INSTANTIATE_TEST_SUITE_P(Languages, ContrastTest,
-                         ::testing::Combine(::testing::Values(Languages().front()),
-                                            ::testing::Values(1.0)),
-                         NameOfSetting);
 
 class SwatchContrastTest : public RealWindows {
  protected:
@@ -142,12 +113,12 @@ class SwatchContrastTest : public RealWindows {
 TEST_F(SwatchContrastTest, SquaresStandOutOnTheSystemsOwnDesktop) { ExpectSquaresStandOut(); }
 
 TEST_F(SwatchContrastTest, SquaresStandOutOnADarkDesktop) {
-  const DesktopColors dark(replay::DarkPalette());
+  const ColorsOfDesktop dark(replay::DarkPalette());
   ExpectSquaresStandOut();
 }
 
 TEST_F(SwatchContrastTest, TheAreasKeepTheColorThatTheyShow) {
-  const DesktopColors dark(replay::DarkPalette());
+  const ColorsOfDesktop dark(replay::DarkPalette());
   main.lstColors.Choose(2);
   Settle();
   QWidget& area = windows.Of(main.picFarbe);
@@ -159,7 +130,7 @@ TEST_F(SwatchContrastTest, TheAreasKeepTheColorThatTheyShow) {
 TEST_F(SwatchContrastTest, APictureHasThePlainBackgroundOfTheWindow) {
   test.OpenHandling(VehicleLineOf("BUS"));
   main.SSTab1.ClickByHand(kPictureTab);
-  const DesktopColors dark(replay::DarkPalette());
+  const ColorsOfDesktop dark(replay::DarkPalette());
   QWidget& frame = windows.Of(main.picFrame);
   const QRgb window = windows.Of(main).palette().color(QPalette::Window).rgb();
   for (const QPoint place : {QPoint(20, 20), frame.rect().center(), QPoint(20, 200)}) {
@@ -169,4 +140,7 @@ TEST_F(SwatchContrastTest, APictureHasThePlainBackgroundOfTheWindow) {
 }
 
 }  // namespace
+
+const std::vector<ViewCheck> kContrastChecks = {{"every text is readable", ExpectReadableTexts}};
+
 }  // namespace wheelwright::testing

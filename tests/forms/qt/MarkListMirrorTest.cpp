@@ -71,6 +71,12 @@ TEST_F(MarkListMirrorTest, TheFocusMarksNothing) {
   EXPECT_EQ(Rows(), Marked());
 }
 
+TEST_F(MarkListMirrorTest, ANewTextShowsAndKeepsTheMarks) {
+  ClickRow(1);
+  EXPECT_GT(PaintsAfter([this] { marks.ReplaceRow(0, "other"); }, *view.viewport()), 0);
+  EXPECT_EQ(Rows(), Marked{1});
+}
+
 TEST_F(MarkListMirrorTest, MarksMoveWithTheirRowsAndGoWithThem) {
   ClickRow(1);
   ClickRow(3, Qt::ControlModifier);

@@ -5,6 +5,19 @@
 #include <QtTest/QTest>
 
 namespace wheelwright::testing {
+namespace {
+
+class PaintCount : public QObject {
+ public:
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() == QEvent::Paint) ++count;
+    return false;
+  }
+
+  int count = 0;
+};
+
+}  // namespace
 
 MirrorBench::MirrorBench() { rows.addWidget(&elsewhere); }
 
@@ -16,6 +29,15 @@ void MirrorBench::Raise(QWidget& widget) {
   EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
   elsewhere.setFocus();
   Settle();
+}
+
+int MirrorBench::PaintsAfter(const std::function<void()>& action, QWidget& widget) {
+  Settle();
+  PaintCount paints;
+  widget.installEventFilter(&paints);
+  action();
+  Settle();
+  return paints.count;
 }
 
 }  // namespace wheelwright::testing

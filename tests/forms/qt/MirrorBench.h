@@ -4,7 +4,9 @@
 #include "forms/qt/MirrorSet.h"
 #include "forms/qt/QtPrinters.h"
 #include "forms/qt/RecordingEdge.h"
+#include "replay/OnScreen.h"
 
+#include <functional>
 #include <gtest/gtest.h>
 
 #include <QLineEdit>
@@ -27,7 +29,12 @@ class MirrorBench : public ::testing::Test {
   void Raise(QWidget& widget);
 
   // What a widget shows otherwise than its control says.
-  std::string Difference(const Control& control) const { return mirrors.Of(control).Difference(); }
+  std::string Difference(const Control& control) const {
+    return replay::DifferenceOnScreen(control, mirrors.Of(control).Widget());
+  }
+
+  // How often the widget paints itself once the action has been done.
+  static int PaintsAfter(const std::function<void()>& action, QWidget& widget);
 
   void TearDown() override { EXPECT_EQ(edge.ends, std::vector<std::string>()); }
 

@@ -1,7 +1,6 @@
 // A scroll bar and its widget, in both directions.
 #include "forms/qt/Areas.h"
 #include "forms/qt/MirrorBench.h"
-#include "forms/qt/Settle.h"
 
 #include <QScrollBar>
 #include <QStyleOptionSlider>
@@ -9,16 +8,6 @@
 
 namespace wheelwright::testing {
 namespace {
-
-class PaintCount : public QObject {
- public:
-  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
-    if (event->type() == QEvent::Paint) ++count;
-    return false;
-  }
-
-  int count = 0;
-};
 
 class ScrollBarMirrorTest : public MirrorBench {
  protected:
@@ -79,16 +68,11 @@ TEST_F(ScrollBarMirrorTest, TheTabKeyReachesIt) {
 TEST_F(ScrollBarMirrorTest, DraggingRepaintsTheSwatchBeforeTheButtonIsReleased) {
   auto& area = Show<ColorArea>(swatch);
   bar.changed = [this] { swatch.Fill(bar.Value(), 0, 0); };
-  Settle();
-  PaintCount paints;
-  area.installEventFilter(&paints);
   const QPoint start = MiddleOfHandle();
   QTest::mousePress(&widget, Qt::LeftButton, {}, start);
-  DragTo(start + QPoint(60, 0));
+  EXPECT_GT(PaintsAfter([&] { DragTo(start + QPoint(60, 0)); }, area), 0);
   const int halfWay = Value();
   EXPECT_GT(halfWay, 0);
-  Settle();
-  EXPECT_GT(paints.count, 0);
   const QImage painted = area.grab().toImage();
   EXPECT_EQ(painted.pixelColor(painted.rect().center()), QColor(halfWay, 0, 0));
   DragTo(start + QPoint(5000, 0));

@@ -28,9 +28,9 @@ class TabGroupMirrorTest : public MirrorBench {
   std::vector<int> left;
 };
 
-void ClickTab(QTabWidget& widget, int tab) {
+void ClickTab(QTabWidget& widget, int tab, Qt::MouseButton which = Qt::LeftButton) {
   QTabBar& bar = *widget.tabBar();
-  QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.tabRect(tab).center());
+  QTest::mouseClick(&bar, which, {}, bar.tabRect(tab).center());
 }
 
 TEST_F(TabGroupMirrorTest, AClickBringsATabToTheFrontAndTellsWhichWasLeft) {
@@ -42,8 +42,10 @@ TEST_F(TabGroupMirrorTest, AClickBringsATabToTheFrontAndTellsWhichWasLeft) {
   EXPECT_EQ(left, (std::vector<int>{0, 2}));
 }
 
-TEST_F(TabGroupMirrorTest, AClickOnTheTabInFrontRunsNothing) {
+TEST_F(TabGroupMirrorTest, AClickOnTheTabInFrontOrWithAnotherButtonRunsNothing) {
   ClickTab(Widget(), 0);
+  ClickTab(Widget(), 1, Qt::RightButton);
+  EXPECT_EQ(Tab(), 0);
   EXPECT_EQ(left, std::vector<int>());
 }
 

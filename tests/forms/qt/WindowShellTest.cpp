@@ -1,5 +1,6 @@
 // The coming and going of the three windows, and their keys.
 #include "forms/qt/RealWindows.h"
+#include "forms/qt/Settle.h"
 
 #include <QPushButton>
 #include <QtTest/QTest>
@@ -8,6 +9,10 @@ namespace wheelwright::testing {
 namespace {
 
 using Shown = std::vector<std::string>;
+
+constexpr const char* kDefinition =
+    "cars\r\n130, bus, bus, plane, BUS, BUS, null, big, 30, 7, 0, 5\r\nend\r\n";
+constexpr const char* kColors = "col\r\n1,2,3\t# 0 black\r\nend\r\ncar\r\nbus, 0,0\r\nend\r\n";
 
 class WindowShellTest : public RealWindows {
  protected:
@@ -105,6 +110,16 @@ TEST_F(WindowShellTest, OnlyTheMainWindowCountsForTheEnd) {
   EXPECT_FALSE(windows.Of(test.exporter).testAttribute(Qt::WA_QuitOnClose));
 }
 
+TEST_F(WindowShellTest, AnArrowOfTheExportIsDescribedByTheListThatItFills) {
+  const auto description = [this](const Button& arrow) {
+    return windows.Of(arrow).accessibleDescription();
+  };
+  EXPECT_EQ(description(test.exporter.cmdAdd), "E111");
+  EXPECT_EQ(description(test.exporter.cmdAddAll), "E111");
+  EXPECT_EQ(description(test.exporter.cmdDel), "E110");
+  EXPECT_EQ(description(test.exporter.cmdDelAll), "E110");
+}
+
 TEST_F(WindowShellTest, TheStandardKeysClickTheirButtons) {
   test.desktop.choices = {std::nullopt};
   Press(QKeySequence::Open, "Ctrl+O");
@@ -128,6 +143,38 @@ TEST_F(WindowShellTest, TheKeysOfSavingWorkOnceAFileIsOpen) {
   EXPECT_EQ(test.LastShown(), "save");
 }
 
+// The group of tabs that shows takes the space of the greatest.
+TEST_F(WindowShellTest, TheMainWindowKeepsItsSizeWhateverFileIsOpen) {
+  const QWidget& window = windows.Of(main);
+  const auto sizes = [&] {
+    Settle();
+    return std::pair(window.size(), window.minimumSizeHint());
+  };
+  const auto before = sizes();
+  test.OpenHandling(VehicleLineOf("BUS"));
+  EXPECT_EQ(sizes(), before);
+  test.OpenDefinition(kDefinition);
+  EXPECT_EQ(sizes(), before);
+  test.OpenColors(kColors);
+  EXPECT_EQ(sizes(), before);
+}
+
+// More pairs than a line of the file can have: their number has no limit but that of the table.
+TEST_F(WindowShellTest, AllPairsOfAVehicleShowHoweverManyTheyAre) {
+  constexpr int kMost = 32767;
+  test.OpenColors(kColors);
+  std::vector<std::int16_t> numbers(kMost - 1);
+  test.vars.CarColors.At(0).Color1 = numbers;
+  test.vars.CarColors.At(0).Color2 = numbers;
+  main.cmbAutos.ChooseByHand(0);
+  main.cmdAddColor.ClickByHand();
+  EXPECT_EQ(Of<RowView>(main.lstCarColors).model()->rowCount(), kMost);
+  main.lstCarColors.ChooseByHand(kMost - 1);
+  Settle();
+  EXPECT_EQ(Of<RowView>(main.lstCarColors).SelectedRows(), std::vector<int>{kMost - 1});
+  EXPECT_EQ(Differences(), "");
+}
+
 // A whole day in miniature: what the program does to its controls arrives on all of them.
 TEST_F(WindowShellTest, AllControlsShowWhatThePlainOnesSay) {
   test.OpenHandling(VehicleLineOf("BUS") + "\r\n" + VehicleLineOf("TAXI"));
@@ -136,9 +183,9 @@ TEST_F(WindowShellTest, AllControlsShowWhatThePlainOnesSay) {
   QTest::keyClick(&windows.Of(main.cmbAutos), Qt::Key_Down);
   EXPECT_EQ(main.txtAutoname.Text(), "TAXI");
   EXPECT_EQ(Differences(), "");
-  test.OpenDefinition("cars\r\n130, bus, bus, plane, BUS, BUS, null, big, 30, 7, 0, 5\r\nend\r\n");
+  test.OpenDefinition(kDefinition);
   EXPECT_EQ(Differences(), "");
-  test.OpenColors("col\r\n1,2,3\t# 0 black\r\nend\r\ncar\r\nbus, 0,0\r\nend\r\n");
+  test.OpenColors(kColors);
   EXPECT_EQ(Differences(), "");
 }
 

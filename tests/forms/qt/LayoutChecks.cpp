@@ -1,9 +1,9 @@
-// In every language nothing is cut off and nothing lies over something else.
-#include "forms/qt/WindowWalk.h"
+// Nothing is cut off and nothing lies over something else.
+#include "forms/qt/ViewChecks.h"
 #include "screen/DefinitionFields.h"
 #include "screen/HandlingFields.h"
 
-#include <set>
+#include <gtest/gtest.h>
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -18,8 +18,6 @@
 
 namespace wheelwright::testing {
 namespace {
-
-class LayoutTest : public WindowWalk {};
 
 int WidthOf(const QString& caption, const QWidget& widget) {
   return widget.fontMetrics().size(Qt::TextShowMnemonic, caption).width();
@@ -84,83 +82,64 @@ bool LieApart(const QWidget& one, const QWidget& other) {
          !PlaceOf(one).intersects(PlaceOf(other));
 }
 
-TEST_P(LayoutTest, NoCaptionIsCutOff) {
-  Walk([this](Window& plain, QWidget&) {
-    for (const QWidget* widget : Showing(plain)) {
-      EXPECT_TRUE(ShowsWhole(*widget)) << widget->objectName().toStdString() << " in "
-                                       << ::testing::PrintToString(widget->size());
-    }
-  });
+void ExpectWholeCaptions(const View& view) {
+  for (const Control* control : view.showing) {
+    const QWidget& widget = view.Of(*control);
+    EXPECT_TRUE(ShowsWhole(widget))
+        << control->Name() << " in " << widget.width() << " by " << widget.height();
+  }
 }
 
-TEST_P(LayoutTest, NoTwoControlsLieOverEachOtherAndAllInsideTheirWindow) {
-  Walk([this](Window& plain, QWidget& window) {
-    const std::vector<QWidget*> showing = Showing(plain);
-    for (std::size_t i = 0; i < showing.size(); ++i) {
-      const QWidget& widget = *showing[i];
-      EXPECT_TRUE(window.rect().contains(PlaceOf(widget))) << widget.objectName().toStdString();
-      EXPECT_TRUE(widget.parentWidget()->rect().contains(widget.geometry()))
-          << widget.objectName().toStdString();
-      for (std::size_t j = 0; j < i; ++j) {
-        EXPECT_TRUE(LieApart(widget, *showing[j])) << widget.objectName().toStdString() << " and "
-                                                   << showing[j]->objectName().toStdString();
-      }
+void ExpectControlsApart(const View& view) {
+  for (const Control* control : view.showing) {
+    const QWidget& widget = view.Of(*control);
+    EXPECT_TRUE(view.window.rect().contains(PlaceOf(widget))) << control->Name();
+    EXPECT_TRUE(widget.parentWidget()->rect().contains(widget.geometry())) << control->Name();
+    for (const Control* other : view.showing) {
+      if (other == control) break;
+      EXPECT_TRUE(LieApart(widget, view.Of(*other))) << control->Name() << " and " << other->Name();
     }
-  });
+  }
 }
 
-// Of two fields that show, the one of the lower row stands lower.
-template <class Fields>
-void ExpectRowsInOrder(const Fields& fields, const std::function<QWidget&(const Label&)>& of,
-                       const FrmMain& main) {
+// Calls the visitor for each two fields of one page that show, the one of the higher row first.
+template <class Fields, class Visitor>
+void ForTwoRows(const Fields& fields, const View& view, const Visitor& visit) {
   for (const auto& upper : fields) {
     for (const auto& lower : fields) {
       if (upper.label == nullptr || lower.label == nullptr || upper.tab != lower.tab) continue;
-      const QWidget& above = of(main.*upper.label);
-      const QWidget& below = of(main.*lower.label);
+      const QWidget& above = view.Of(view.main.*upper.label);
+      const QWidget& below = view.Of(view.main.*lower.label);
       if (upper.tabRow >= lower.tabRow || !above.isVisible() || !below.isVisible()) continue;
-      EXPECT_LT(above.geometry().bottom(), below.geometry().top()) << upper.name;
+      visit(above.geometry(), below.geometry(), lower.tabRow - upper.tabRow);
     }
   }
 }
 
-TEST_P(LayoutTest, TheRowsOfATabStandInTheirOrder) {
-  const auto of = [this](const Label& label) -> QWidget& { return windows.Of(label); };
-  Walk([&](Window&, QWidget&) {
-    ExpectRowsInOrder(kHandlingFields, of, main);
-    ExpectRowsInOrder(kDefinitionFields, of, main);
-  });
+void ExpectRowsInOrder(const View& view) {
+  const auto expectBelow = [](QRect above, QRect below, int) {
+    EXPECT_LT(above.bottom(), below.top());
+  };
+  ForTwoRows(kHandlingFields, view, expectBelow);
+  ForTwoRows(kDefinitionFields, view, expectBelow);
 }
-
-// How far the middles of two rows that follow each other are apart.
-template <class Fields>
-void CollectDistances(const Fields& fields, const std::function<QWidget&(const Label&)>& of,
-                      const FrmMain& main, std::set<int>& distances) {
-  for (const auto& upper : fields) {
-    for (const auto& lower : fields) {
-      if (upper.label == nullptr || lower.label == nullptr || upper.tab != lower.tab) continue;
-      const QWidget& above = of(main.*upper.label);
-      const QWidget& below = of(main.*lower.label);
-      if (lower.tabRow != upper.tabRow + 1 || !above.isVisible() || !below.isVisible()) continue;
-      distances.insert(below.geometry().top() - above.geometry().top());
-    }
-  }
-}
-
-TEST_P(LayoutTest, TheRowsOfAllTabsKeepTheSameDistance) {
-  const auto of = [this](const Label& label) -> QWidget& { return windows.Of(label); };
-  std::set<int> distances;
-  Walk([&](Window&, QWidget&) {
-    CollectDistances(kHandlingFields, of, main, distances);
-    CollectDistances(kDefinitionFields, of, main, distances);
-  });
-  EXPECT_EQ(distances.size(), 1u) << ::testing::PrintToString(distances);
-}
-
-INSTANTIATE_TEST_SUITE_P(Languages, LayoutTest,
-                         ::testing::Combine(::testing::ValuesIn(Languages()),
-                                            ::testing::Values(1.0, 1.5, 2.0)),
-                         NameOfSetting);
 
 }  // namespace
+
+std::set<int> RowDistances(const View& view) {
+  std::set<int> distances;
+  const auto collect = [&](QRect above, QRect below, int rows) {
+    if (rows == 1) distances.insert(below.top() - above.top());
+  };
+  ForTwoRows(kHandlingFields, view, collect);
+  ForTwoRows(kDefinitionFields, view, collect);
+  return distances;
+}
+
+const std::vector<ViewCheck> kLayoutChecks = {
+    {"no caption is cut off", ExpectWholeCaptions},
+    {"no two controls lie over each other, and all inside their window", ExpectControlsApart},
+    {"the rows of a tab stand in their order", ExpectRowsInOrder},
+};
+
 }  // namespace wheelwright::testing
