@@ -126,10 +126,6 @@ void ExpectDifferentKeys(const View& view) {
   }
 }
 
-QRect PlaceOf(const QWidget& widget) {
-  return {widget.mapTo(widget.window(), QPoint()), widget.size()};
-}
-
 // From one control to the next it goes on in the same row, down to a row below, or to a column
 // right of all that came before.
 void ExpectReadingOrder(const std::vector<QWidget*>& reached) {

@@ -45,8 +45,14 @@ double ContrastIn(QWidget& widget, const QRect& part) {
                            ->grab(QRect(widget.mapTo(widget.window(), part.topLeft()), part.size()))
                            .toImage();
   std::map<QRgb, int> counts;
+  auto last = counts.emplace(image.pixel(0, 0), 0).first;
   for (int y = 0; y < image.height(); ++y) {
-    for (int x = 0; x < image.width(); ++x) ++counts[image.pixel(x, y)];
+    for (int x = 0; x < image.width(); ++x) {
+      // Most dots have the colour of the one before them.
+      const QRgb color = image.pixel(x, y);
+      if (color != last->first) last = counts.emplace(color, 0).first;
+      ++last->second;
+    }
   }
   QRgb background = 0;
   int most = 0;

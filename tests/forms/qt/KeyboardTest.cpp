@@ -11,11 +11,6 @@ namespace {
 
 using Shown = std::vector<std::string>;
 
-constexpr const char* kDefinition =
-    "cars\r\n130, bus, bus, car, BUS, BUS, null, big, 30, 7, 0, 250, 0.7\r\nend\r\n";
-constexpr const char* kColors =
-    "col\r\n1,2,3\t# 0 black\r\n200,100,50\t# 1 brown\r\nend\r\ncar\r\nbus, 0,1\r\nend\r\n";
-
 class KeyboardTest : public Keyboard {
  protected:
   // Opens a file by the key for it; the file dialog is the desktop's.

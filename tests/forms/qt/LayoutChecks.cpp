@@ -73,10 +73,6 @@ bool ShowsWhole(const QWidget& widget) {
   return isWideEnough && widget.height() >= needed.height();
 }
 
-QRect PlaceOf(const QWidget& widget) {
-  return {widget.mapTo(widget.window(), QPoint()), widget.size()};
-}
-
 bool LieApart(const QWidget& one, const QWidget& other) {
   return one.isAncestorOf(&other) || other.isAncestorOf(&one) ||
          !PlaceOf(one).intersects(PlaceOf(other));

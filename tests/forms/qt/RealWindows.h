@@ -12,6 +12,12 @@ namespace wheelwright::testing {
 
 class RealWindows : public ::testing::Test {
  protected:
+  // A definition file with one vehicle, a colour file with two colours and one.
+  static constexpr const char* kDefinition =
+      "cars\r\n130, bus, bus, car, BUS, BUS, null, big, 30, 7, 0, 250, 0.7\r\nend\r\n";
+  static constexpr const char* kColors =
+      "col\r\n1,2,3\t# 0 black\r\n200,100,50\t# 1 brown\r\nend\r\ncar\r\nbus, 0,1\r\nend\r\n";
+
   RealWindows();
 
   template <class WidgetType>

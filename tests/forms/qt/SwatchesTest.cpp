@@ -12,16 +12,13 @@
 namespace wheelwright::testing {
 namespace {
 
-constexpr const char* kFile =
-    "col\r\n1,2,3\t# 0 black\r\n200,100,50\t# 1 brown\r\nend\r\ncar\r\nbus, 0,1\r\nend\r\n";
-
 QImage Painted(const QIcon& icon, int side) { return icon.pixmap(QSize(side, side), 1).toImage(); }
 
 QColor Middle(const QIcon& icon) { return Painted(icon, 32).pixelColor(16, 16); }
 
 class SwatchesTest : public RealWindows {
  protected:
-  SwatchesTest() { test.OpenColors(kFile); }
+  SwatchesTest() { test.OpenColors(kColors); }
 
   // The colours beside the rows, "none" where there is no square.
   static QStringList Beside(const QAbstractItemModel& rows) {

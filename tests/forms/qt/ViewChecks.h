@@ -37,6 +37,11 @@ extern const std::vector<ViewCheck> kAccessibleTreeChecks;
 // On every desktop.
 extern const std::vector<ViewCheck> kContrastChecks;
 
+// In the window's coordinates.
+inline QRect PlaceOf(const QWidget& widget) {
+  return {widget.mapTo(widget.window(), QPoint()), widget.size()};
+}
+
 // Some systems speak a combo box's text first and find its name by its label.
 QString SpokenName(const QAccessibleInterface& object);
 

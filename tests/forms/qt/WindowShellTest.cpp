@@ -10,10 +10,6 @@ namespace {
 
 using Shown = std::vector<std::string>;
 
-constexpr const char* kDefinition =
-    "cars\r\n130, bus, bus, plane, BUS, BUS, null, big, 30, 7, 0, 5\r\nend\r\n";
-constexpr const char* kColors = "col\r\n1,2,3\t# 0 black\r\nend\r\ncar\r\nbus, 0,0\r\nend\r\n";
-
 class WindowShellTest : public RealWindows {
  protected:
   void ShowErrors() {
