@@ -11,6 +11,8 @@ namespace wheelwright::testing {
 
 class Keyboard : public RealWindows {
  protected:
+  Keyboard() { StopPainting(); }
+
   void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
   void Press(QKeySequence::StandardKey key);
   void Type(const QString& text);

@@ -46,8 +46,7 @@ TEST_F(PlainTextTest, AColorsNameShowsInAllItsLists) {
 
 TEST_F(PlainTextTest, NoLabelGuessesMarkup) {
   int labels = 0;
-  for (const Window* window : {static_cast<Window*>(&main), static_cast<Window*>(&test.error),
-                               static_cast<Window*>(&test.exporter)}) {
+  for (const Window* window : all) {
     for (const QLabel* label : windows.Of(*window).findChildren<QLabel*>()) {
       EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->objectName().toStdString();
       ++labels;

@@ -18,10 +18,13 @@ void RealWindows::Activate(const Window& window) {
   Settle();
 }
 
+void RealWindows::StopPainting() {
+  for (const Window* window : all) windows.Of(*window).setUpdatesEnabled(false);
+}
+
 std::string RealWindows::Differences() {
   std::string differences;
-  for (const Window* window : {static_cast<Window*>(&main), static_cast<Window*>(&test.error),
-                               static_cast<Window*>(&test.exporter)}) {
+  for (const Window* window : all) {
     const QWidget& widget = windows.Of(*window);
     // Where a program says [*] and doesn't mean the mark of a changed document, it says it twice.
     const QString title = widget.windowTitle().replace("[*][*]", "[*]");

@@ -6,6 +6,7 @@
 #include "forms/qt/WindowSet.h"
 #include "support/TestSession.h"
 
+#include <array>
 #include <gtest/gtest.h>
 
 namespace wheelwright::testing {
@@ -28,6 +29,9 @@ class RealWindows : public ::testing::Test {
   // Makes a window that is up the active one.
   void Activate(const Window& window);
 
+  // Saves most of the time where nothing looks at what is painted.
+  void StopPainting();
+
   // What all windows and controls show otherwise than the plain ones say, a line each.
   std::string Differences();
 
@@ -37,6 +41,7 @@ class RealWindows : public ::testing::Test {
   RecordingEdge edge;
   WindowSet windows{test.session, edge};
   FrmMain& main = test.main;
+  const std::array<Window*, 3> all{&main, &test.error, &test.exporter};
 };
 
 }  // namespace wheelwright::testing
