@@ -27,22 +27,22 @@ constexpr std::array<char16_t, 32> kBehindAscii = {
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
-std::string Unlike(const char* what, const QString& shown, const QString& meant) {
-  if (shown == meant) return "";
-  return std::string(what) + " \"" + shown.toStdString() + "\" instead of \"" +
-         meant.toStdString() + "\"";
-}
+// Keeps the first difference that it is told of.
+class Comparison {
+ public:
+  void Add(const char* what, const QString& shown, const QString& meant) {
+    if (shown == meant || !first_.empty()) return;
+    first_ = std::string(what) + " \"" + shown.toStdString() + "\" instead of \"" +
+             meant.toStdString() + "\"";
+  }
+  void Add(const char* what, int shown, int meant) {
+    Add(what, QString::number(shown), QString::number(meant));
+  }
+  const std::string& First() const { return first_; }
 
-std::string Unlike(const char* what, int shown, int meant) {
-  return Unlike(what, QString::number(shown), QString::number(meant));
-}
-
-// The first that says anything.
-std::string FirstOf(std::initializer_list<std::string> differences) {
-  const auto* found = std::find_if(differences.begin(), differences.end(),
-                                   [](const std::string& text) { return !text.empty(); });
-  return found == differences.end() ? "" : *found;
-}
+ private:
+  std::string first_;
+};
 
 // A label reads marks only for the input whose name it is.
 QString CaptionOn(QWidget& widget) {
@@ -52,32 +52,25 @@ QString CaptionOn(QWidget& widget) {
   return label != nullptr && label->buddy() == nullptr ? text : AsRead(text);
 }
 
-std::string CaptionDifference(const Captioned& control, QWidget& widget) {
-  return Unlike("caption", CaptionOn(widget), AsRead(control.Caption()));
+void CompareTick(const CheckBox& box, const QCheckBox& shown, Comparison& comparison) {
+  comparison.Add("check state", shown.checkState(),
+                 box.State() == 0   ? Qt::Unchecked
+                 : box.State() == 1 ? Qt::Checked
+                                    : Qt::PartiallyChecked);
 }
 
-std::string TickDifference(const CheckBox& box, QWidget& widget) {
-  const Qt::CheckState meant = box.State() == 0   ? Qt::Unchecked
-                               : box.State() == 1 ? Qt::Checked
-                                                  : Qt::PartiallyChecked;
-  return FirstOf({CaptionDifference(box, widget),
-                  Unlike("check state", static_cast<QCheckBox&>(widget).checkState(), meant)});
-}
-
-std::string RowsDifference(const RowList& list, const QAbstractItemModel& shown) {
-  std::string difference = Unlike("number of rows", shown.rowCount(), list.Count());
-  for (int row = 0; difference.empty() && row < list.Count(); ++row) {
-    difference = Unlike("row", shown.index(row, 0).data().toString(),
-                        AsWritten(list.Rows()[static_cast<std::size_t>(row)]));
+void CompareRows(const RowList& list, const QAbstractItemModel& shown, Comparison& comparison) {
+  comparison.Add("number of rows", shown.rowCount(), list.Count());
+  for (int row = 0; row < list.Count(); ++row) {
+    comparison.Add("row", shown.index(row, 0).data().toString(),
+                   AsWritten(list.Rows()[static_cast<std::size_t>(row)]));
   }
-  return difference;
 }
 
-std::string PickDifference(const PickList& list, QWidget& widget) {
-  const auto& box = static_cast<QComboBox&>(widget);
-  return FirstOf({RowsDifference(list, *box.model()),
-                  Unlike("text", box.currentText(), AsWritten(list.Text())),
-                  Unlike("row", box.currentIndex(), list.Row())});
+void ComparePick(const PickList& list, const QComboBox& shown, Comparison& comparison) {
+  CompareRows(list, *shown.model(), comparison);
+  comparison.Add("text", shown.currentText(), AsWritten(list.Text()));
+  comparison.Add("row", shown.currentIndex(), list.Row());
 }
 
 QString Numbers(std::vector<int> rows) {
@@ -87,46 +80,41 @@ QString Numbers(std::vector<int> rows) {
   return text;
 }
 
-std::string ChoiceDifference(const RowList& list, const std::vector<int>& chosen, QWidget& widget) {
-  const auto& view = static_cast<QListView&>(widget);
+void CompareChoice(const RowList& list, const std::vector<int>& chosen, const QListView& shown,
+                   Comparison& comparison) {
   std::vector<int> selected;
-  for (const QModelIndex& index : view.selectionModel()->selectedRows()) {
+  for (const QModelIndex& index : shown.selectionModel()->selectedRows()) {
     selected.push_back(index.row());
   }
-  return FirstOf({RowsDifference(list, *view.model()),
-                  Unlike("chosen rows", Numbers(selected), Numbers(chosen))});
+  CompareRows(list, *shown.model(), comparison);
+  comparison.Add("chosen rows", Numbers(selected), Numbers(chosen));
 }
 
-std::string TabDifference(const TabGroup& group, QWidget& widget) {
-  const auto& tabs = static_cast<QTabWidget&>(widget);
-  std::string difference =
-      FirstOf({Unlike("number of tabs", tabs.count(), static_cast<int>(group.Tabs().size())),
-               Unlike("tab in front", tabs.currentIndex(), group.Tab())});
-  for (int tab = 0; difference.empty() && tab < tabs.count(); ++tab) {
-    difference =
-        Unlike("caption", AsRead(tabs.tabText(tab)),
-               AsWritten(group.Tabs()[static_cast<std::size_t>(tab)]).replace("\r\n", "\n"));
-  }
-  return difference;
+void CompareTabs(const TabGroup& group, const QTabWidget& shown, Comparison& comparison) {
+  QString captions;
+  for (const std::string& tab : group.Tabs())
+    captions += AsWritten(tab).replace("\r\n", "\n") + "|";
+  QString shownCaptions;
+  for (int tab = 0; tab < shown.count(); ++tab) shownCaptions += AsRead(shown.tabText(tab)) + "|";
+  comparison.Add("captions", shownCaptions, captions);
+  comparison.Add("tab in front", shown.currentIndex(), group.Tab());
 }
 
 // The middle column holds captions, the others texts of the file and whole sentences.
-std::string ReportDifference(const ReportList& list, QWidget& widget) {
-  const QAbstractItemModel& shown = *static_cast<QTreeView&>(widget).model();
-  const auto& rows = list.Rows();
-  std::string difference =
-      Unlike("number of rows", shown.rowCount(), static_cast<int>(rows.size()));
-  for (int column = 0; difference.empty() && column < shown.columnCount(); ++column) {
+void CompareReport(const ReportList& list, const QAbstractItemModel& shown,
+                   Comparison& comparison) {
+  const auto rows = static_cast<int>(list.Rows().size());
+  comparison.Add("number of rows", shown.rowCount(), rows);
+  for (int column = 0; column < shown.columnCount(); ++column) {
     const auto place = static_cast<std::size_t>(column);
-    difference = Unlike("header", shown.headerData(column, Qt::Horizontal).toString(),
-                        AsRead(list.Columns()[place]));
-    for (int row = 0; difference.empty() && row < shown.rowCount(); ++row) {
-      const std::string& cell = rows[static_cast<std::size_t>(row)][place];
-      difference = Unlike("cell", shown.index(row, column).data().toString(),
-                          column == 1 ? AsRead(cell) : AsWritten(cell));
+    comparison.Add("header", shown.headerData(column, Qt::Horizontal).toString(),
+                   AsRead(list.Columns()[place]));
+    for (int row = 0; row < rows; ++row) {
+      const std::string& cell = list.Rows()[static_cast<std::size_t>(row)][place];
+      comparison.Add("cell", shown.index(row, column).data().toString(),
+                     column == 1 ? AsRead(cell) : AsWritten(cell));
     }
   }
-  return difference;
 }
 
 // What the widget itself paints, a dot for each of the design's; nothing where it paints nothing.
@@ -139,56 +127,52 @@ QImage Painted(QWidget& widget) {
 }
 
 // Of a file that ends too early some dots are what the memory held, so only the place is compared.
-std::string PictureDifference(const Picture& picture, QWidget& widget) {
+void ComparePicture(const Picture& picture, QWidget& widget, Comparison& comparison) {
   const QRegion painted(QBitmap::fromImage(Painted(widget).createAlphaMask()));
   const QRectF place(picture.Left(), picture.Top(), picture.Width(), picture.Height());
-  const bool isThere = !painted.isEmpty();
-  return FirstOf(
-      {Unlike("picture", isThere, !place.isEmpty()),
-       Unlike("picture outside its place",
-              isThere && !place.toAlignedRect().contains(painted.boundingRect()), false)});
+  comparison.Add("picture", !painted.isEmpty(), !place.isEmpty());
+  comparison.Add("picture outside its place", !painted.subtracted(place.toAlignedRect()).isEmpty(),
+                 false);
 }
 
-std::string SwatchDifference(const Swatch& swatch, QWidget& widget) {
+void CompareSwatch(const Swatch& swatch, QWidget& widget, Comparison& comparison) {
   const QImage painted = Painted(widget);
   const QColor shown = painted.pixelColor(painted.rect().center());
   const auto& color = swatch.Color();
   const QColor meant = color ? QColor((*color)[0], (*color)[1], (*color)[2]) : Qt::transparent;
-  return Unlike("color", shown.name(QColor::HexArgb), meant.name(QColor::HexArgb));
+  comparison.Add("color", shown.name(QColor::HexArgb), meant.name(QColor::HexArgb));
 }
 
-std::string ContentDifference(const Control& control, QWidget& widget) {
+void CompareContent(const Control& control, QWidget& widget, Comparison& comparison) {
   const auto* const plain = &control;
-  if (const auto* box = dynamic_cast<const CheckBox*>(plain)) return TickDifference(*box, widget);
-  if (qobject_cast<QFrame*>(&widget) != nullptr && dynamic_cast<const Frame*>(plain) != nullptr) {
-    return "";  // the frame around the picture, which has no caption
+  // The frame around the picture has no caption.
+  const auto* captioned = dynamic_cast<const Captioned*>(plain);
+  if (captioned != nullptr && widget.metaObject() != &QFrame::staticMetaObject) {
+    comparison.Add("caption", CaptionOn(widget), AsRead(captioned->Caption()));
   }
-  if (const auto* captioned = dynamic_cast<const Captioned*>(plain)) {
-    return CaptionDifference(*captioned, widget);
+  if (const auto* box = dynamic_cast<const CheckBox*>(plain)) {
+    CompareTick(*box, static_cast<QCheckBox&>(widget), comparison);
+  } else if (const auto* text = dynamic_cast<const TextBox*>(plain)) {
+    comparison.Add("text", static_cast<QLineEdit&>(widget).text(), AsWritten(text->Text()));
+  } else if (const auto* bar = dynamic_cast<const ScrollBar*>(plain)) {
+    comparison.Add("value", static_cast<QScrollBar&>(widget).value(), bar->Value());
+  } else if (const auto* pick = dynamic_cast<const PickList*>(plain)) {
+    ComparePick(*pick, static_cast<QComboBox&>(widget), comparison);
+  } else if (const auto* list = dynamic_cast<const ListBox*>(plain)) {
+    const int row = list->Row();
+    CompareChoice(*list, row < 0 ? std::vector<int>() : std::vector<int>{row},
+                  static_cast<QListView&>(widget), comparison);
+  } else if (const auto* marks = dynamic_cast<const MarkList*>(plain)) {
+    CompareChoice(*marks, marks->Marked(), static_cast<QListView&>(widget), comparison);
+  } else if (const auto* group = dynamic_cast<const TabGroup*>(plain)) {
+    CompareTabs(*group, static_cast<QTabWidget&>(widget), comparison);
+  } else if (const auto* report = dynamic_cast<const ReportList*>(plain)) {
+    CompareReport(*report, *static_cast<QTreeView&>(widget).model(), comparison);
+  } else if (const auto* picture = dynamic_cast<const Picture*>(plain)) {
+    ComparePicture(*picture, widget, comparison);
+  } else if (const auto* swatch = dynamic_cast<const Swatch*>(plain)) {
+    CompareSwatch(*swatch, widget, comparison);
   }
-  if (const auto* box = dynamic_cast<const TextBox*>(plain)) {
-    return Unlike("text", static_cast<QLineEdit&>(widget).text(), AsWritten(box->Text()));
-  }
-  if (const auto* bar = dynamic_cast<const ScrollBar*>(plain)) {
-    return Unlike("value", static_cast<QScrollBar&>(widget).value(), bar->Value());
-  }
-  if (const auto* list = dynamic_cast<const PickList*>(plain)) return PickDifference(*list, widget);
-  if (const auto* list = dynamic_cast<const ListBox*>(plain)) {
-    return ChoiceDifference(
-        *list, list->Row() < 0 ? std::vector<int>() : std::vector<int>{list->Row()}, widget);
-  }
-  if (const auto* list = dynamic_cast<const MarkList*>(plain)) {
-    return ChoiceDifference(*list, list->Marked(), widget);
-  }
-  if (const auto* group = dynamic_cast<const TabGroup*>(plain))
-    return TabDifference(*group, widget);
-  if (const auto* list = dynamic_cast<const ReportList*>(plain)) {
-    return ReportDifference(*list, widget);
-  }
-  if (const auto* picture = dynamic_cast<const Picture*>(plain)) {
-    return PictureDifference(*picture, widget);
-  }
-  return SwatchDifference(dynamic_cast<const Swatch&>(control), widget);
 }
 
 }  // namespace
@@ -212,9 +196,11 @@ QString AsRead(QString widgetsCaption) {
 }
 
 std::string DifferenceOnScreen(const Control& control, QWidget& widget) {
-  return FirstOf({Unlike("visible", !widget.isHidden(), control.IsVisible()),
-                  Unlike("enabled", widget.isEnabled(), control.IsEnabledHere()),
-                  ContentDifference(control, widget)});
+  Comparison comparison;
+  comparison.Add("visible", !widget.isHidden(), control.IsVisible());
+  comparison.Add("enabled", widget.isEnabled(), control.IsEnabledHere());
+  CompareContent(control, widget, comparison);
+  return comparison.First();
 }
 
 }  // namespace wheelwright::replay
