@@ -3,7 +3,7 @@
 // by a line on standard output that says what can be seen then, also while a box or a dialog waits
 // inside the order.
 //
-//   see [NAME]      nothing is done
+//   see NAME        nothing is done; "front" is what has to be answered or used next
 //   click NAME      the left mouse button in the middle of the widget of that name
 //   key KEYS        "ctrl+s", to the window that has the focus
 //   type TEXT
@@ -83,7 +83,6 @@ QJsonObject Seen(const QString& name) {
           {"rows", RowsOf(*widget)},
           {"owner", owner == nullptr ? "" : owner->window()->objectName()},
           {"active", widget->isActiveWindow()},
-          {"window", static_cast<qint64>(widget->window()->winId())},
           {"place", QJsonArray{middle.x(), middle.y()}}};
 }
 
