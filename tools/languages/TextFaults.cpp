@@ -16,7 +16,7 @@ namespace wheelwright::languages {
 namespace {
 
 constexpr std::size_t kNewVehicle = 63;    // " 'NEWCAR54'" follows
-constexpr std::size_t kWrongCount = 102;   // ": ", the number found, a blank and 103 follow
+constexpr std::size_t kOtherCount = 102;   // ": ", the number found, a blank and 103 follow
 constexpr std::size_t kDamagedLine = 150;  // directly followed by a line number
 
 struct Needed {
@@ -81,8 +81,8 @@ class TextCheck {
       Add(entry, "must be words only; the program puts \" (*." + std::string(kind.ending) +
                      ")\" behind them");
     }
-    if (entries_[kWrongCount].ends_with(':')) {
-      Add(kWrongCount, "ends in a colon, which the program puts there itself; take it out");
+    if (entries_[kOtherCount].ends_with(':')) {
+      Add(kOtherCount, "ends in a colon, which the program puts there itself; take it out");
     }
     if (Has(kNewVehicle, "'")) {
       Add(kNewVehicle, "has a quote; the program puts the new name in quotes behind it");

@@ -9,8 +9,6 @@
 namespace wheelwright {
 namespace {
 
-enum Column { kLabelColumn, kInputColumn, kValueColumn };
-
 void AddBar(Label& label, ScrollBar& bar, Label& value, QGridLayout& grid, QWidget& page,
             MirrorSet& mirrors) {
   const int row = grid.rowCount();
@@ -23,7 +21,7 @@ void AddBar(Label& label, ScrollBar& bar, Label& value, QGridLayout& grid, QWidg
   text.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   grid.addWidget(&name.Widget(), row, kLabelColumn);
   grid.addWidget(&input, row, kInputColumn);
-  grid.addWidget(&text, row, kValueColumn);
+  grid.addWidget(&text, row, kInfoColumn);
 }
 
 QLayout* ColorList(FrmMain& main, TabGroupMirror& group, QWidget& page, MirrorSet& mirrors) {
@@ -91,7 +89,7 @@ void AddPick(Label& label, PickList& pick, Swatch& swatch, QGridLayout& grid, QW
   name.Name(input);
   grid.addWidget(&name.Widget(), row, kLabelColumn);
   grid.addWidget(&input, row, kInputColumn);
-  grid.addWidget(&mirrors.Add(swatch, &frame).Widget(), row, kValueColumn);
+  grid.addWidget(&mirrors.Add(swatch, &frame).Widget(), row, kInfoColumn);
 }
 
 QWidget* PairAdder(FrmMain& main, QWidget& page, MirrorSet& mirrors) {

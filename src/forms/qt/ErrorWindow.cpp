@@ -9,9 +9,9 @@
 namespace wheelwright {
 namespace {
 
-constexpr QSize kInnerSize(570, 336);
-constexpr QSize kListSize(569, 297);
-constexpr QRect kClosePlace(464, 304, 97, 25);
+constexpr QSize kReportSize(570, 336);
+constexpr QSize kReportListSize(569, 297);
+constexpr QRect kCloseButton(464, 304, 97, 25);
 
 QFont Verdana(QFont font) {
   font.setFamilies({"Verdana", font.family()});
@@ -27,20 +27,20 @@ ErrorWindow::ErrorWindow(FrmError& error, EventEdge& edge, MirrorSet& mirrors, Q
   list.setFont(Verdana(font()));
   list.setAccessibleName(ShownTitle(error.Title()));
   close.setFont(Verdana(font()));
-  close.setMinimumSize(kClosePlace.size());
+  close.setMinimumSize(kCloseButton.size());
 
   auto* bottom = new QHBoxLayout;
-  bottom->setContentsMargins(0, kClosePlace.top() - kListSize.height(),
-                             kInnerSize.width() - kClosePlace.right() - 1,
-                             kInnerSize.height() - kClosePlace.bottom() - 1);
+  bottom->setContentsMargins(0, kCloseButton.top() - kReportListSize.height(),
+                             kReportSize.width() - kCloseButton.right() - 1,
+                             kReportSize.height() - kCloseButton.bottom() - 1);
   bottom->addStretch();
   bottom->addWidget(&close);
   auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(0, 0, kInnerSize.width() - kListSize.width(), 0);
+  column->setContentsMargins(0, 0, kReportSize.width() - kReportListSize.width(), 0);
   column->setSpacing(0);
   column->addWidget(&list, 1);
   column->addLayout(bottom);
-  resize(kInnerSize);
+  resize(kReportSize);
 }
 
 }  // namespace wheelwright

@@ -10,8 +10,8 @@ namespace {
 // The design is in twentieths of a point, of which a pixel at 96 dots per inch has 15.
 constexpr int Pixels(int twentieths) { return twentieths / 15; }
 
-constexpr QSize kInnerSize(Pixels(5385), Pixels(4785));
-constexpr QSize kListSize(Pixels(2175), Pixels(3765));
+constexpr QSize kExportSize(Pixels(5385), Pixels(4785));
+constexpr QSize kExportListSize(Pixels(2175), Pixels(3765));
 constexpr QSize kArrowSize(Pixels(615), Pixels(375));
 constexpr QSize kButtonSize(Pixels(1215), Pixels(375));
 constexpr int kLabelHeight = Pixels(255);
@@ -20,13 +20,13 @@ constexpr int kGap = Pixels(105);
 constexpr int kBelowLists = Pixels(75);
 constexpr int kBetweenArrows = Pixels(105);
 
-enum Column { kAvailable, kArrows, kChosen };
+enum ExportColumn { kAvailable, kArrows, kChosen };
 
-LabelMirror& AddList(Label& caption, MarkList& list, Column column, QGridLayout& grid,
+LabelMirror& AddList(Label& caption, MarkList& list, ExportColumn column, QGridLayout& grid,
                      QWidget* window, MirrorSet& mirrors) {
   LabelMirror& name = mirrors.Add(caption, window);
   QWidget& rows = mirrors.Add(list, window).Widget();
-  rows.setMinimumSize(kListSize);
+  rows.setMinimumSize(kExportListSize);
   name.Name(rows);
   grid.addWidget(&name.Widget(), 0, column);
   grid.addWidget(&rows, 1, column);
@@ -100,7 +100,7 @@ ExportWindow::ExportWindow(FrmExport& exporter, EventEdge& edge, MirrorSet& mirr
   column->setSpacing(kBelowLists);
   column->addLayout(grid, 1);
   column->addLayout(BottomRow(exporter, this, mirrors));
-  resize(kInnerSize);
+  resize(kExportSize);
 }
 
 }  // namespace wheelwright

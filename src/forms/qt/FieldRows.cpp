@@ -3,11 +3,6 @@
 #include "forms/qt/PickBox.h"
 
 namespace wheelwright {
-namespace {
-
-enum Column { kLabelColumn, kInputColumn, kInfoColumn };
-
-}  // namespace
 
 // A pick list is the highest input.
 int RowHeight(QWidget& page) { return PickBox(&page).sizeHint().height(); }

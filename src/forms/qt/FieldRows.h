@@ -7,6 +7,9 @@
 
 namespace wheelwright {
 
+// The columns of a page; where there is no hint, the value of the input stands there.
+enum PageColumn { kLabelColumn, kInputColumn, kInfoColumn };
+
 // The height of a row with any kind of input, so that rows keep the same distance on all pages.
 int RowHeight(QWidget& page);
 
