@@ -90,20 +90,20 @@ class Bench:
             capture_output=True, text=True, check=False)
         return Outcome(done.returncode == 0, True, done.stdout + done.stderr)
 
-    def prepare(self, programs, parts):
+    def prepare(self, programs, entries):
         """Builds programs of the unchanged copy and tries their tests, which says how long they may take."""
         subprocess.run(["cmake", "--preset", "mutants", "--log-level=WARNING"], cwd=self.tree,
                        stdout=subprocess.DEVNULL, check=True)
         built = self.compile(*programs)
         if not built.passed:
             sys.exit(built.output)
-        for part in parts:
+        for entry in entries:
             began = time.monotonic()
-            outcome = self.tests(part)
+            outcome = self.tests(entry)
             if not outcome.passed:
                 sys.exit(outcome.output + "\nThe tests fail without any change.")
             took = time.monotonic() - began
-            self.limits[part] = max(PATIENCE * took, SHORTEST_PATIENCE)
+            self.limits[entry] = max(PATIENCE * took, SHORTEST_PATIENCE)
 
     @contextlib.contextmanager
     def changed(self, file, text):
@@ -135,18 +135,16 @@ class Bench:
         self.temporary.mkdir(parents=True)
         # Random inputs are the same for every change.
         return {**os.environ, "TMPDIR": str(self.temporary), "TEST_TMPDIR": str(self.temporary),
-                "RC_PARAMS": "seed=1"}
+                "RC_PARAMS": "seed=1", "GTEST_FAIL_FAST": "1"}
 
-    def tests_beside(self, file):
-        """The unit tests of the folder of tests that goes with a source."""
+    def suites_beside(self, file):
+        """What chooses the unit tests of the folder of tests that goes with a source."""
         folder = self.tree / "tests" / pathlib.PurePath(file).parts[1]
         suites = {name for test in folder.glob("*Test.cpp") for name in SUITE.findall(test.read_text())}
-        pattern = ":".join(shape for suite in suites for shape in (f"{suite}.*", f"*/{suite}.*"))
-        return run([str(self.build / "wheelwright-tests"), "--gtest_brief=1", "--gtest_fail_fast",
-                    f"--gtest_filter={pattern}"], self.environment(), max(self.limits.values()))
+        return ":".join(shape for suite in suites for shape in (f"{suite}.*", f"*/{suite}.*"))
 
-    def tests(self, part):
-        """The entries of ctest whose names begin so."""
-        return run(["ctest", "--test-dir", str(self.build), "-LE", "scaled|display", "-R", f"^{part}",
+    def tests(self, entry, chosen="*"):
+        """The entries of ctest whose names begin so, and of those that choose their tests only these."""
+        return run(["ctest", "--test-dir", str(self.build), "-LE", "scaled|display", "-R", f"^{entry}",
                     "--output-on-failure", "--stop-on-failure", f"-j{os.cpu_count()}"],
-                   self.environment(), self.limits.get(part))
+                   {**self.environment(), "GTEST_FILTER": chosen}, self.limits.get(entry))

@@ -5,9 +5,8 @@ usage: scripts/mutants [--windows] [COUNT] [SEED]      200 mistakes and a random
 What could be mistaken: a comparison, a bound, a sign, a logical word, the order of two steps, a call
 left out. All places are equally likely: those of the logic, or with --windows those of the real windows
 and the main program. A mistake that doesn't compile isn't counted. The logic is judged by the unit tests,
-then the sessions on the plain controls; the windows by the widget tests, the tests of the program itself,
-then the sessions on the real windows. A hang or a crash is a mistake found. Prints what no test finds;
-build/mutants/log has everything.
+then the sessions on the plain controls; the windows by the widget tests, then those of the program itself.
+A hang or a crash is a mistake found. Prints what no test finds; build/mutants/log has everything.
 """
 
 import collections
@@ -15,6 +14,7 @@ import difflib
 import pathlib
 import random
 import sys
+from collections.abc import Callable
 from dataclasses import dataclass
 
 from bench import Bench
@@ -22,23 +22,35 @@ from sites import sites_of
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 FOLDER = ROOT / "build" / "mutants"
+# The slowest of the widget tests.
+WALK = "Settings/WindowsTest.*"
 SURVIVED = "survived"
 NOT_COMPILED = "doesn't compile"
 
 
 @dataclass(frozen=True)
+class Judge:
+    """An entry of ctest and which of its tests are run, given the bench and the changed file."""
+    name: str
+    entry: str
+    chosen: Callable = lambda bench, file: "*"
+
+
+@dataclass(frozen=True)
 class Half:
-    """A half of the program, what it is built into, and the tests that judge it."""
-    library: str
+    """A half of the program, what is built of it, and its judges, the quickest first."""
     programs: tuple
-    has_tests_beside: bool
-    parts: tuple
+    judges: tuple
 
 
-LOGIC = Half("wheelwright-logic", ("wheelwright-tests", "wheelwright-replay"), True,
-             ("wheelwright-tests", "sessions-plain"))
-WINDOWS = Half("wheelwright-windows", ("all",), False,
-               ("wheelwright-widget-tests", "program", "sessions-widgets"))
+LOGIC = Half(("wheelwright-tests", "wheelwright-replay"), (
+    Judge("the unit tests beside it", "wheelwright-tests", Bench.suites_beside),
+    Judge("the other unit tests", "wheelwright-tests"),
+    Judge("the sessions", "sessions-plain")))
+WINDOWS = Half(("wheelwright-widget-tests", "wheelwright", "wheelwright-person"), (
+    Judge("the widget tests", "wheelwright-widget-tests", lambda bench, file: f"-{WALK}"),
+    Judge("the walk through all windows", "wheelwright-widget-tests", lambda bench, file: WALK),
+    Judge("the program's own tests", "program")))
 
 
 def sources_of(bench, half):
@@ -57,17 +69,14 @@ def difference(before, after):
 
 def finder(bench, half, file):
     """What finds the mistake that is in the copy just now."""
-    if not bench.compile(half.library).passed or not bench.compile(*half.programs).passed:
+    if not bench.compile(*half.programs).passed:
         return NOT_COMPILED
-    steps = [(part, lambda part=part: bench.tests(part)) for part in half.parts]
-    if half.has_tests_beside:
-        steps.insert(0, ("the tests beside it", lambda: bench.tests_beside(file)))
-    for name, step in steps:
-        outcome = step()
+    for judge in half.judges:
+        outcome = bench.tests(judge.entry, judge.chosen(bench, file))
         if not outcome.ended:
             return "a hang"
         if not outcome.passed:
-            return name
+            return judge.name
     return SURVIVED
 
 
@@ -111,7 +120,7 @@ def main():
         sys.exit(__doc__)
     count, seed = [int(word) for word in numbers] + [200, random.randrange(10**6)][len(numbers):]
     bench = Bench(ROOT, FOLDER)
-    bench.prepare(half.programs, half.parts)
+    bench.prepare(half.programs, sorted({judge.entry for judge in half.judges}))
     sites = drawn_sites(bench, half, seed)
     print(f"seed {seed}, {len(sites)} places")
     with (FOLDER / "log").open("w", encoding="utf-8") as log:
