@@ -165,4 +165,5 @@ class ProgramTest(unittest.TestCase):
 if __name__ == "__main__":
     HANDS = Display if "--display" in sys.argv else NoDisplay
     BINARY, PLUGINS, *names = (each for each in sys.argv[1:] if each != "--display")
-    unittest.main(argv=[sys.argv[0], *(f"ProgramTest.{name}" for name in names)])
+    # A program that does nothing as it should fails each test after a long wait.
+    unittest.main(failfast=True, argv=[sys.argv[0], *(f"ProgramTest.{name}" for name in names)])
