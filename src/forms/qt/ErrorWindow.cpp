@@ -31,7 +31,7 @@ ErrorWindow::ErrorWindow(FrmError& error, EventEdge& edge, MirrorSet& mirrors, Q
 
   auto* bottom = new QHBoxLayout;
   bottom->setContentsMargins(0, kCloseButton.top() - kReportListSize.height(),
-                             kReportSize.width() - kCloseButton.right() - 1,
+                             kReportListSize.width() - kCloseButton.right() - 1,
                              kReportSize.height() - kCloseButton.bottom() - 1);
   bottom->addStretch();
   bottom->addWidget(&close);
