@@ -37,12 +37,16 @@ TEST_F(CaptionMirrorsTest, ALabelsMarkIsTheWayToItsInput) {
 
 TEST_F(CaptionMirrorsTest, AnInputHasItsLabelsCaptionAsNameAndItsHintAsDescription) {
   auto& input = Show<QLineEdit>(text);
-  ShowLabelOf(input);
-  mirrors.Add(hint, &window).Describe(input);
   label.SetCaption("&R && D");
   hint.SetCaption("(1 && 2)");
+  ShowLabelOf(input);
+  mirrors.Add(hint, &window).Describe(input);
   EXPECT_EQ(input.accessibleName(), "R & D");
   EXPECT_EQ(input.accessibleDescription(), "(1 & 2)");
+  label.SetCaption("R && &D");
+  hint.SetCaption("&(2)");
+  EXPECT_EQ(input.accessibleName(), "R & D");
+  EXPECT_EQ(input.accessibleDescription(), "(2)");
   EXPECT_EQ(Difference(label), "");
   EXPECT_EQ(Difference(hint), "");
 }

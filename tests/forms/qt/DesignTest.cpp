@@ -1,6 +1,9 @@
-// The two small windows have the places of their design, as long as the font needs no more room.
+// The two small windows have the places of their design, as long as the font needs no more room;
+// the main window goes by the font.
 #include "forms/qt/Desktops.h"
 #include "forms/qt/RealWindows.h"
+#include "forms/qt/Settle.h"
+#include "forms/qt/ViewChecks.h"
 
 namespace wheelwright::testing {
 namespace {
@@ -48,6 +51,58 @@ TEST_F(DesignTest, TheLoadProblems) {
   for (const Control* control : test.error.Controls()) {
     EXPECT_EQ(windows.Of(*control).font().families().constFirst(), "Verdana") << control->Name();
   }
+}
+
+class MainDesignTest : public RealWindows {
+ protected:
+  QRect Place(const Control& control) const { return PlaceOf(windows.Of(control)); }
+
+  void OpenOnTab(int tab) {
+    test.OpenHandling(VehicleLineOf("BUS"));
+    main.SSTab1.ClickByHand(tab);
+    Settle();
+  }
+
+  // The dots between two controls, of which the other stands below or right of the first.
+  int Below(const Control& one, const Control& other) {
+    return Place(other).top() - Place(one).bottom() - 1;
+  }
+  int Beside(const Control& one, const Control& other) {
+    return Place(other).left() - Place(one).right() - 1;
+  }
+
+  const int letter = windows.Of(main).fontMetrics().height();
+};
+
+TEST_F(MainDesignTest, TheTabsStandBesideTheColumnAndAboveTheBottomRow) {
+  OpenOnTab(kGeneralTab);
+  EXPECT_EQ(Beside(main.FrameAutos, main.SSTab1), letter);
+  EXPECT_EQ(Below(main.FrameSprache, main.FrameAutos), letter / 2);
+  EXPECT_EQ(Below(main.FrameAutos, main.cmdOpen), letter / 2 * 2);
+  EXPECT_EQ(Below(main.cmdOpen, main.cmdSave), letter / 2);
+  EXPECT_EQ(Beside(main.cmdHelp, main.cmdInfo), letter / 2);
+  EXPECT_EQ(Place(main.cmdHelp).left(), Place(main.SSTab1).left());
+  EXPECT_EQ(Place(main.cmdEnde).right(), Place(main.SSTab1).right());
+  EXPECT_GT(Place(main.cmdEnde).top(), Place(main.SSTab1).bottom());
+}
+
+TEST_F(MainDesignTest, TheButtonsOfTheVehiclesAreAQuarterOfThePageEach) {
+  OpenOnTab(kMiscTab);
+  EXPECT_NEAR(Place(main.cmdImportCar).width(), Place(main.SSTab1).width() / 4, letter);
+  EXPECT_EQ(Place(main.cmdExportCar).size(), Place(main.cmdImportCar).size());
+  EXPECT_EQ(Beside(main.cmdImportCar, main.cmdExportCar), letter);
+  EXPECT_EQ(Beside(main.frameAuthor, main.frameDate), letter);
+}
+
+TEST_F(MainDesignTest, TheHalvesOfTheColorPagesStandInTheirOrder) {
+  test.OpenColors(kColors);
+  Settle();
+  EXPECT_EQ(Beside(main.cmdNewColor, main.cmdDeleteColor), letter);
+  EXPECT_EQ(Beside(main.lstColors, main.lblColorName), letter);
+  EXPECT_EQ(Place(main.picFarbe).right(), Place(main.txtColorName).right());
+  main.SSTab3.ClickByHand(kPairsTab);
+  Settle();
+  EXPECT_EQ(Beside(main.frameColors, main.frameAddColors), letter);
 }
 
 }  // namespace

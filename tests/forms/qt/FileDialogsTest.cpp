@@ -78,9 +78,11 @@ TEST_F(FileDialogsTest, TheChoiceIsFileAndFilterCountedFromOne) {
 }
 
 TEST_F(FileDialogsTest, AFileThatIsNotThereCanBeChosen) {
+  dialog.filterIndex = 2;
   const ModalHand hand(Types(File("missing.cfg"), 1));
   desktop.ShowOpen(dialog);
   EXPECT_EQ(dialog.file, File("missing.cfg").toStdString());
+  EXPECT_EQ(dialog.filterIndex, 1);
 }
 
 TEST_F(FileDialogsTest, ACancelIsAFailureAndLeavesTheDialogAsItWas) {

@@ -98,6 +98,18 @@ void ExpectControlsApart(const View& view) {
   }
 }
 
+// A picture in its frame stands in the middle.
+void ExpectMargins(const View& view) {
+  if (view.Of(view.main.picFrame).isVisible() || view.Of(view.main.picFrame2).isVisible()) return;
+  const int letter = view.window.fontMetrics().height();
+  for (const auto* tabs : view.window.findChildren<QTabWidget*>()) {
+    if (!tabs->isVisible()) continue;
+    const QWidget& page = *tabs->currentWidget();
+    const QRect room = page.rect().adjusted(letter, letter, -letter, -letter);
+    EXPECT_TRUE(room.contains(page.childrenRect())) << tabs->objectName().toStdString();
+  }
+}
+
 // Calls the visitor for each two fields of one page that show, the one of the higher row first.
 template <class Fields, class Visitor>
 void ForTwoRows(const Fields& fields, const View& view, const Visitor& visit) {
@@ -135,6 +147,7 @@ std::set<int> RowDistances(const View& view) {
 const std::vector<ViewCheck> kLayoutChecks = {
     {"no caption is cut off", ExpectWholeCaptions},
     {"no two controls lie over each other, and all inside their window", ExpectControlsApart},
+    {"a letter's height is free around what stands on a tab", ExpectMargins},
     {"the rows of a tab stand in their order", ExpectRowsInOrder},
 };
 

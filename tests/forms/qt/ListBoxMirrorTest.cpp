@@ -98,11 +98,17 @@ TEST_F(ListBoxMirrorTest, TheArrowKeysChooseAndReturnAndSpaceChooseAgain) {
   EXPECT_EQ(runs, 3);
 }
 
-TEST_F(ListBoxMirrorTest, ReturnChoosesTheRowUnderTheCursorWhenNothingIsChosen) {
-  view.setFocus(Qt::TabFocusReason);
-  QTest::keyClick(&view, Qt::Key_Return);
-  EXPECT_EQ(Row(), 0);
-  EXPECT_EQ(runs, 1);
+TEST_F(ListBoxMirrorTest, ReturnAndSpaceChooseTheRowUnderTheCursorWhenNothingIsChosen) {
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space}) {
+    list.Clear();
+    list.AddRows(Numbered(2));
+    runs = 0;
+    elsewhere.setFocus();
+    view.setFocus(Qt::TabFocusReason);
+    QTest::keyClick(&view, key);
+    EXPECT_EQ(Row(), 0);
+    EXPECT_EQ(runs, 1);
+  }
 }
 
 TEST_F(ListBoxMirrorTest, TheProgramsChoiceRunsTheHandlerOnceAndIsScrolledTo) {

@@ -2,6 +2,7 @@
 
 #include "forms/qt/Settle.h"
 
+#include <QAbstractItemModelTester>
 #include <QtTest/QTest>
 
 namespace wheelwright::testing {
@@ -22,6 +23,10 @@ class PaintCount : public QObject {
 MirrorBench::MirrorBench() { rows.addWidget(&elsewhere); }
 
 void MirrorBench::Raise(QWidget& widget) {
+  for (auto* model : widget.findChildren<QAbstractItemModel*>()) {
+    new QAbstractItemModelTester(model, QAbstractItemModelTester::FailureReportingMode::Fatal,
+                                 model);
+  }
   rows.addWidget(&widget);
   widget.show();
   window.show();

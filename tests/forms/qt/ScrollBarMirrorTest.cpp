@@ -60,9 +60,15 @@ TEST_F(ScrollBarMirrorTest, TheKeysMoveItTheWayTheyPoint) {
   EXPECT_EQ(ValueAfter(Qt::Key_Home), 0);
 }
 
-TEST_F(ScrollBarMirrorTest, TheTabKeyReachesIt) {
+TEST_F(ScrollBarMirrorTest, TheTabKeyReachesItWhichIsSeen) {
+  QScrollBar plain(Qt::Horizontal, &window);
+  plain.setRange(widget.minimum(), widget.maximum());
+  plain.setPageStep(widget.pageStep());
+  plain.resize(widget.size());
+  EXPECT_EQ(widget.grab().toImage(), plain.grab().toImage());
   QTest::keyClick(&elsewhere, Qt::Key_Tab);
   EXPECT_TRUE(widget.hasFocus());
+  EXPECT_NE(widget.grab().toImage(), plain.grab().toImage());
 }
 
 TEST_F(ScrollBarMirrorTest, DraggingRepaintsTheSwatchBeforeTheButtonIsReleased) {
