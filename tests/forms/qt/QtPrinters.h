@@ -4,6 +4,7 @@
 #include <ostream>
 
 #include <QColor>
+#include <QRect>
 #include <QSize>
 #include <QString>
 
@@ -16,4 +17,9 @@ inline void PrintTo(const QColor& color, std::ostream* out) { *out << color.name
 
 inline void PrintTo(const QSize& size, std::ostream* out) {
   *out << size.width() << " x " << size.height();
+}
+
+inline void PrintTo(const QRect& rect, std::ostream* out) {
+  *out << rect.x() << ", " << rect.y() << ", ";
+  PrintTo(rect.size(), out);
 }
