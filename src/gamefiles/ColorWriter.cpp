@@ -103,14 +103,11 @@ std::string WithPairsRewritten(const Table<CarColorEntry>& carColors, std::strin
 }  // namespace
 
 std::string RewriteColorFile(Session& session) {
-  Vars& vars = session.vars;
+  const Vars& vars = session.vars;
   std::string palette = WithPaletteRewritten(vars.Colors, session.files.Read(vars.CurrentFile));
   palette += kLineEnd;
   session.files.Write(vars.CurrentFile, palette);
-  std::string text = WithPairsRewritten(vars.CarColors, session.files.Read(vars.CurrentFile));
-  vars.Kopie_Colors = vars.Colors;
-  vars.Kopie_CarColors = vars.CarColors;
-  return text;
+  return WithPairsRewritten(vars.CarColors, session.files.Read(vars.CurrentFile));
 }
 
 }  // namespace wheelwright
