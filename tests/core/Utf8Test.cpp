@@ -40,6 +40,10 @@ TEST(Utf8Test, AByteThatBeginsNoCharacterIsTakenAlone) {
   std::string_view rest = "\xE2\x82z";
   EXPECT_EQ(TakeCharacter(rest), kNoCharacter);
   EXPECT_EQ(rest, "\x82z");
+  const std::string euro = "\xE2\x82\xAC";
+  std::string_view cutOff(euro.data(), 2);
+  EXPECT_EQ(TakeCharacter(cutOff), kNoCharacter);
+  EXPECT_EQ(cutOff, "\x82");
 }
 
 }  // namespace
