@@ -5,6 +5,8 @@
 #include "forms/qt/Settle.h"
 #include "forms/qt/ViewChecks.h"
 
+#include <QComboBox>
+
 namespace wheelwright::testing {
 namespace {
 
@@ -84,6 +86,22 @@ TEST_F(MainDesignTest, TheTabsStandBesideTheColumnAndAboveTheBottomRow) {
   EXPECT_EQ(Place(main.cmdHelp).left(), Place(main.SSTab1).left());
   EXPECT_EQ(Place(main.cmdEnde).right(), Place(main.SSTab1).right());
   EXPECT_GT(Place(main.cmdEnde).top(), Place(main.SSTab1).bottom());
+}
+
+// On every page the inputs stand in the same place, and a row with a text box is as high as one
+// with a list.
+TEST_F(MainDesignTest, TheRowsOfAPageAreOfOneHeightAndItsInputsOfOneWidth) {
+  OpenOnTab(kGeneralTab);
+  const int character = windows.Of(main).fontMetrics().averageCharWidth();
+  const QRect label = Place(main.lblGewicht);
+  const QRect input = Place(main.txtGewicht);
+  EXPECT_EQ(input.left(), label.left() + 23 * character + letter);
+  EXPECT_GE(input.width(), 24 * character);
+  EXPECT_NEAR(2 * input.width(), 3 * Place(main.lblGewichtInfo).width(), letter);
+  EXPECT_EQ(Beside(main.txtGewicht, main.lblGewichtInfo), letter);
+  EXPECT_EQ(Place(main.lblPedSeat).top() - label.top(),
+            Of<QComboBox>(main.cmbFrontLichter).sizeHint().height() + letter / 2);
+  EXPECT_EQ(Place(main.cmbFrontLichter).width(), input.width());
 }
 
 TEST_F(MainDesignTest, TheButtonsOfTheVehiclesAreAQuarterOfThePageEach) {
