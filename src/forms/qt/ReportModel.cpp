@@ -20,8 +20,9 @@ int ReportModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant ReportModel::data(const QModelIndex& index, int role) const {
+  // An index of nothing has the row -1, which lies behind all others.
   const auto row = static_cast<std::size_t>(index.row());
-  if (role != Qt::DisplayRole || !index.isValid() || row >= list_.Rows().size()) return {};
+  if (role != Qt::DisplayRole || row >= list_.Rows().size()) return {};
   return CellText(list_.Rows()[row], static_cast<std::size_t>(index.column()));
 }
 
