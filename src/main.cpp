@@ -1,4 +1,5 @@
 // The program: the application of the toolkit, and what runs in it.
+#include "core/DiskFiles.h"
 #include "forms/qt/Program.h"
 #include "forms/qt/ProgramIcon.h"
 
@@ -22,6 +23,7 @@ bool LacksDisplay() {
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
+  wheelwright::LetWritesFail();
   if (LacksDisplay()) {
     std::fputs("Wheelwright needs a display: neither DISPLAY nor WAYLAND_DISPLAY is set.\n",
                stderr);

@@ -16,8 +16,6 @@ bool StandsBefore(const std::string& left, const std::string& right) {
 
 }  // namespace
 
-void DiskFiles::Copy(const std::string& from, const std::string& to) { Write(to, Read(from)); }
-
 std::vector<std::string> DiskFiles::List(const std::string& directory) const {
   std::vector<std::string> names = NamesIn(directory);
   std::sort(names.begin(), names.end(), StandsBefore);

@@ -8,8 +8,9 @@
 namespace wheelwright {
 
 // Failures: 53 a file to be read isn't there; 76 the directory of a path isn't there; 75 no access,
-// a directory in a file's place, or a write to a read-only file; 70 another program keeps the file
-// to itself, as it can on Windows; 61 the disk is full; 57 any other fault.
+// a write to a read-only file, or something else in a file's place, such as a directory, a pipe or
+// a device, which is never waited for; 70 another program keeps the file to itself; 61 no room on
+// the disk, or a limit on its use; 57 any other fault.
 class Files {
  public:
   Files() = default;
@@ -23,14 +24,19 @@ class Files {
   // All bytes of a file.
   virtual std::string Read(const std::string& path) const = 0;
 
-  // Opens a file for writing, which empties it, writes the text and closes it. A fault that the
-  // system reports only at the close is a failure too.
+  // Gives a file this text and no other. Room for it is found before the old text is touched; when
+  // the call returns the text is on the disk, and what the system reports until then is a failure.
   virtual void Write(const std::string& path, std::string_view text) = 0;
 
-  // Copies the bytes of a file; a file of the target's name is replaced.
+  // Failure 61 if Write would find no room for the text. Knows no other failure and changes
+  // nothing.
+  virtual void CheckRoom(const std::string& path, std::string_view text) = 0;
+
+  // Gives a file the bytes of another. Nobody may do more with it than with the other.
   virtual void Copy(const std::string& from, const std::string& to) = 0;
 
-  // Makes a read-only file writable; on Windows every attribute goes.
+  // Makes a read-only file writable; on Windows every attribute goes. Where that can't be done
+  // nothing happens, and a Write says so.
   virtual void ClearAttributes(const std::string& path) = 0;
 
   // The names of the files directly in a directory, without the directories, ordered by name

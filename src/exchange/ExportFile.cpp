@@ -52,6 +52,20 @@ void ForEachChosenVehicle(const Session& session, const Visit& visit) {
   }
 }
 
+// Writes the text with what is added to it. A failure among the vehicles leaves the file with what
+// stands before it.
+template <class Add>
+void WriteWithVehicles(Session& session, const std::string& target, std::string text,
+                       const Add& add) {
+  try {
+    add(text);
+  } catch (...) {
+    session.files.Write(target, text);
+    throw;
+  }
+  session.files.Write(target, text);
+}
+
 void AppendTuningBlock(std::string& out, int row, const Car& car) {
   const std::string record = "Kopie_Cars(" + std::to_string(row) + ").";
   const auto assign = [&](const char* field, const std::string& value) {
@@ -74,16 +88,14 @@ void ExportVehicles(Session& session) {
   if (session.exporter.lst2.Count() == 0) return;
   Guarded(session, [&] {
     const std::string target = ChooseTarget(session);
-    std::string text = ExportHeader(session.main);
-    // The header stands in the file before the first vehicle is looked for.
-    session.files.Write(target, text);
-    ForEachChosenVehicle(session, [&](int /*row*/, const Car& car) {
-      AppendVehicleLine(text, car);
-      text += kLineEnd;
+    WriteWithVehicles(session, target, ExportHeader(session.main), [&](std::string& text) {
+      ForEachChosenVehicle(session, [&](int /*row*/, const Car& car) {
+        AppendVehicleLine(text, car);
+        text += kLineEnd;
+      });
+      AddLine(text, ";");
+      AddLine(text, ";the end");
     });
-    AddLine(text, ";");
-    AddLine(text, ";the end");
-    session.files.Write(target, text);
     session.desktop.ShowInformation(Message(session, 113));
     UnloadExportWindow(session);
   });
@@ -92,11 +104,10 @@ void ExportVehicles(Session& session) {
 void WriteTuningList(Session& session) {
   if (session.exporter.lst2.Count() == 0) return;
   const std::string target = ChooseTarget(session);
-  std::string text;
-  session.files.Write(target, text);
-  ForEachChosenVehicle(session,
-                       [&](int row, const Car& car) { AppendTuningBlock(text, row, car); });
-  session.files.Write(target, text);
+  WriteWithVehicles(session, target, "", [&](std::string& text) {
+    ForEachChosenVehicle(session,
+                         [&](int row, const Car& car) { AppendTuningBlock(text, row, car); });
+  });
 }
 
 }  // namespace wheelwright

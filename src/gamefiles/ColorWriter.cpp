@@ -102,12 +102,15 @@ std::string WithPairsRewritten(const Table<CarColorEntry>& carColors, std::strin
 
 }  // namespace
 
-std::string RewriteColorFile(Session& session) {
+std::string RewriteColorFile(Session& session, const std::string& target) {
   const Vars& vars = session.vars;
   std::string palette = WithPaletteRewritten(vars.Colors, session.files.Read(vars.CurrentFile));
   palette += kLineEnd;
+  std::string text = WithPairsRewritten(vars.CarColors, palette);
+  // A second text without room doesn't leave the open file with the first.
+  session.files.CheckRoom(target, text + std::string(kLineEnd));
   session.files.Write(vars.CurrentFile, palette);
-  return WithPairsRewritten(vars.CarColors, session.files.Read(vars.CurrentFile));
+  return text;
 }
 
 }  // namespace wheelwright

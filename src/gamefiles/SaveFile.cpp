@@ -12,12 +12,12 @@
 namespace wheelwright {
 namespace {
 
-std::string RewrittenText(Session& session) {
+std::string RewrittenText(Session& session, const std::string& target) {
   switch (session.vars.CurrentFileType) {
     case kDefinitionFile:
       return RewriteDefinitionText(session);
     case kColorFile:
-      return RewriteColorFile(session);
+      return RewriteColorFile(session, target);
     default:
       return RewriteHandlingText(session);
   }
@@ -43,7 +43,7 @@ void CopyTablesOverSnapshots(Vars& vars) {
 bool WriteTables(Session& session, const std::string& target) {
   if (!session.files.Exists(session.vars.CurrentFile)) return false;
   session.files.ClearAttributes(session.vars.CurrentFile);
-  std::string text = RewrittenText(session);
+  std::string text = RewrittenText(session, target);
   CopyTablesOverSnapshots(session.vars);
   text += kLineEnd;
   session.files.Write(target, text);

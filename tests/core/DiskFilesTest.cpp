@@ -181,7 +181,6 @@ TEST_F(DiskFilesTest, AMissingOrEmptyFolderListsNothing) {
 
 #ifdef __linux__
 constexpr int kDeviceFault = 57;
-constexpr int kDiskFull = 61;
 
 TEST_F(DiskFilesTest, AnyOtherFaultIsFailure57) {
   fs::create_symlink("loop", In("loop"));
@@ -201,13 +200,6 @@ TEST_F(DiskFilesTest, ClearingTheAttributesLeavesAWritableFileAsItIs) {
 TEST_F(DiskFilesTest, NamesThatDifferInCaseAloneComeInTheOrderOfTheirBytes) {
   for (const char* name : {"a.lng", "A.lng", "AA.lng"}) files_.Write(In(name), "x");
   EXPECT_EQ(files_.List(folder_.string()), (std::vector<std::string>{"A.lng", "a.lng", "AA.lng"}));
-}
-
-TEST_F(DiskFilesTest, AFullDiskIsFailure61WhetherTheWriteReportsItOrTheClose) {
-  EXPECT_EQ(WriteFailure("/dev/full", "x"), kDiskFull);
-  EXPECT_EQ(WriteFailure("/dev/full", std::string(1000000, 'x')), kDiskFull);
-  files_.Write(In("a.cfg"), "x");
-  EXPECT_EQ(NumberThrownBy([&] { files_.Copy(In("a.cfg"), "/dev/full"); }), kDiskFull);
 }
 
 TEST_F(DiskFilesTest, AFileThatHidesItsSizeIsReadWhole) {

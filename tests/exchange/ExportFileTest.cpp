@@ -265,9 +265,10 @@ TEST(ExportVehicles, AFailingWriteShowsItsFailureAndKeepsTheWindow) {
   TestSession test;
   test.OpenHandling(kTwoVehicles);
   ChooseAllForExport(test);
+  test.files.contents[kExportPath] = "an earlier export";
   test.files.failingWrites[kExportPath] = FailureNumber::DiskFull;
   test.desktop.shown.clear();
-  EXPECT_EQ(ExportChosen(test), "");
+  EXPECT_EQ(ExportChosen(test), "an earlier export");
   EXPECT_EQ(test.desktop.shown, (Shown{"save", "error: Error: 61 - Disk full"}));
   EXPECT_TRUE(test.exporter.IsVisible());
   EXPECT_EQ(test.exporter.lst2.Count(), 2);

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <set>
 
 namespace wheelwright::testing {
 namespace {
@@ -101,17 +102,28 @@ Played Play(const FaultCommand& command, int call, Fault fault, const std::strin
   return played;
 }
 
-// Names a text after the write that a command makes of it, the last one first. Empty if it is none.
-std::string NameAmongWrites(const std::string& text, const FaultySession& s,
-                            const std::string& ending) {
-  for (std::size_t i = s.files.calls.size(); i > 0; --i) {
-    const FileCall& call = s.files.calls[i - 1];
-    if (call.operation != Operation::Write) continue;
-    const std::string name = "call " + std::to_string(i) + ending;
-    if (text == call.text) return "as of " + name;
-    if (text == call.text.substr(0, call.text.size() / 2)) return "half of " + name;
+// Half of the new text over the old one, as FaultyFiles leaves it.
+bool IsHalfWay(const std::string& text, const std::string& from, const std::string& to) {
+  const std::size_t half = to.size() / 2;
+  return text == to.substr(0, half) + from.substr(std::min(half, from.size()));
+}
+
+// Names a file's text after the write that a command makes of it: "new" is the last one. Empty if
+// it is none.
+std::string NameAmongWrites(const std::string& path, const std::string& text,
+                            const Played& played) {
+  const std::vector<FileCall>& calls = played.session->files.calls;
+  std::string old = played.before.contains(path) ? played.before.at(path) : "";
+  std::string name;
+  std::string last;
+  for (std::size_t i = 0; i < calls.size(); ++i) {
+    if (calls[i].operation != Operation::Write || calls[i].path != path) continue;
+    last = "as of call " + std::to_string(i + 1);
+    if (IsHalfWay(text, old, calls[i].text)) name = "cut";
+    if (text == calls[i].text) name = last;
+    old = calls[i].text;
   }
-  return "";
+  return !name.empty() && name == last ? "new" : name;
 }
 
 // A text that no write has, as it is but for its line ends.
@@ -135,30 +147,39 @@ std::string NameOfContent(const FaultCommand& command, const std::string& path,
     if (text == s.files.changedTexts.at(path)) return "as changed";
   }
   const Played faultless = Play(command, 0, Fault::None);
-  std::string name = NameAmongWrites(text, *faultless.session, "");
+  std::string name = NameAmongWrites(path, text, faultless);
   for (const auto& [changed, itsText] : s.files.changedTexts) {
     if (!name.empty() || !faultless.before.contains(changed)) continue;
-    name = NameAmongWrites(text, *Play(command, 0, Fault::None, changed).session,
-                           " over the changed file");
+    name = NameAmongWrites(path, text, Play(command, 0, Fault::None, changed));
+    if (!name.empty()) name += " over the changed file";
   }
   return name.empty() ? Literal(text) : name;
+}
+
+std::set<std::string> WrittenBy(const FaultCommand& command) {
+  std::set<std::string> paths;
+  for (const FileCall& call : CallsOf(command)) {
+    if (call.operation == Operation::Write) paths.insert(call.path);
+  }
+  return paths;
 }
 
 std::string DiskOf(const FaultCommand& command, const Played& played) {
   Disk all = played.before;
   const Disk& after = played.session->files.disk.contents;
   all.insert(after.begin(), after.end());
-  std::vector<std::string> differences;
+  const std::set<std::string> written = WrittenBy(command);
+  std::vector<std::string> states;
   for (const auto& [path, text] : all) {
     const auto then = played.before.find(path);
     const auto now = after.find(path);
     const bool same =
         then != played.before.end() && now != after.end() && then->second == now->second;
-    if (!same) {
-      differences.push_back(NameOfFile(path) + " " + NameOfContent(command, path, *played.session));
-    }
+    if (same && !written.contains(path)) continue;
+    states.push_back(NameOfFile(path) + " " +
+                     (same ? "old" : NameOfContent(command, path, *played.session)));
   }
-  return Joined(differences, "; ");
+  return Joined(states, "; ");
 }
 
 std::string SettingsOf(const Played& played) {
@@ -210,8 +231,9 @@ const char* NameOf(Fault fault) {
 std::string LabelOf(const FileCall& call) {
   static const std::map<Operation, const char*> names = {
       {Operation::Exists, "look for"}, {Operation::Clear, "clear marks of"},
-      {Operation::Read, "read"},       {Operation::Write, "write"},
-      {Operation::List, "list"},       {Operation::Picture, "picture"}};
+      {Operation::Read, "read"},       {Operation::Room, "find room for"},
+      {Operation::Write, "write"},     {Operation::List, "list"},
+      {Operation::Picture, "picture"}};
   return std::string(names.at(call.operation)) + " " + NameOfFile(call.path);
 }
 
@@ -228,6 +250,8 @@ std::vector<Fault> FaultsOf(const std::vector<FileCall>& calls, std::size_t inde
     case Operation::Read:
     case Operation::Picture:
       return {gone, Fault::Directory, Fault::NoAccess, Fault::IoError, Fault::Changed};
+    case Operation::Room:
+      return {Fault::Full};
     case Operation::Write:
       return {gone,          Fault::NoFolder, Fault::Directory, Fault::NoAccess,
               Fault::Full,   Fault::CutShort, Fault::IoError,   Fault::CloseError,

@@ -1,7 +1,9 @@
 #include "faults/TinyDisk.h"
 
 #ifdef __linux__
-#include <csignal>
+#include "core/DiskFiles.h"
+
+#include <fstream>
 #include <sched.h>
 #include <sys/mount.h>
 #include <sys/resource.h>
@@ -13,12 +15,12 @@ namespace {
 bool Mount(const std::string& folder) {
   return unshare(CLONE_NEWNS) == 0 &&
          mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
-         mount("tiny", folder.c_str(), "tmpfs", 0, "size=16k") == 0;
+         mount("tiny", folder.c_str(), "tmpfs", 0, "size=256k") == 0;
 }
 
 // Gives the limit that was.
 rlim_t LimitFileSizes(rlim_t size) {
-  std::signal(SIGXFSZ, SIG_IGN);
+  LetWritesFail();
   rlimit limit{};
   getrlimit(RLIMIT_FSIZE, &limit);
   const rlim_t before = std::exchange(limit.rlim_cur, size);
@@ -28,7 +30,8 @@ rlim_t LimitFileSizes(rlim_t size) {
 
 }  // namespace
 
-TinyDisk::TinyDisk(std::string folder) : folder_(std::move(folder)), mounted_(Mount(folder_)) {}
+TinyDisk::TinyDisk(std::string folder, TinyKind kind)
+    : folder_(std::move(folder)), mounted_(kind == TinyKind::FileSystem && Mount(folder_)) {}
 
 TinyDisk::~TinyDisk() {
   if (mounted_) {
@@ -39,7 +42,13 @@ TinyDisk::~TinyDisk() {
 }
 
 void TinyDisk::Fill() {
-  if (!mounted_) limitBefore_ = LimitFileSizes(kSize);
+  if (!mounted_) {
+    limitBefore_ = LimitFileSizes(kPage);
+    return;
+  }
+  std::ofstream filler(folder_ + "/filler", std::ios::binary);
+  while (filler << std::string(kPage, 'x') << std::flush) {
+  }
 }
 
 }  // namespace wheelwright::testing

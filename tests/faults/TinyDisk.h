@@ -8,23 +8,24 @@
 
 namespace wheelwright::testing {
 
-// A file system of four pages in a folder that exists, in a name space of the process's own, so
-// that nothing of it stays. Where the system doesn't let the process mount one, a limit on the size
-// of any file that the process writes stands in for it, from Fill() until the end.
+enum class TinyKind { FileSystem, Limit };
+
+// A file system of a few pages in a folder that exists, in a name space of the process's own, so
+// that nothing of it stays; or a limit on the size of any file that the process writes, which is
+// also taken where the system doesn't let the process mount anything.
 class TinyDisk {
  public:
-  static constexpr std::size_t kSize = 16384;
+  static constexpr std::size_t kPage = 4096;
 
-  explicit TinyDisk(std::string folder);
+  TinyDisk(std::string folder, TinyKind kind);
   TinyDisk(const TinyDisk&) = delete;
   TinyDisk& operator=(const TinyDisk&) = delete;
   ~TinyDisk();
 
-  // From now on no file grows beyond kSize.
+  // From now on no file of a page grows, and none of more than a page can be made.
   void Fill();
 
-  // "a mounted file system" or "a limit on file sizes".
-  const char* Kind() const { return mounted_ ? "a mounted file system" : "a limit on file sizes"; }
+  bool IsMounted() const { return mounted_; }
 
  private:
   std::string folder_;

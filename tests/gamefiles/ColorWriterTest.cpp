@@ -264,7 +264,7 @@ TEST(ColorWriter, AFailingFirstWriteLeavesTheSnapshots) {
   test.main.cmdSaveAs.ClickByHand();
   EXPECT_EQ(test.LastShown(), "error: Error: 61 - Disk full");
   EXPECT_EQ(TextsOf(test.vars.Kopie_Colors), Texts{"0: 1,1,1 oak"});
-  EXPECT_EQ(test.Disk(TestSession::kColorPath), "");
+  EXPECT_EQ(test.Disk(TestSession::kColorPath), WithPalette({"1,1,1\t# 0 oak"}));
   EXPECT_FALSE(test.files.Exists("/game/other"));
   EXPECT_FALSE(test.vars.IsSaved);
 }

@@ -258,12 +258,13 @@ TEST_F(SaveFileTest, TheNextSaveGoesIntoTheNewFile) {
 
 TEST_F(SaveFileTest, AFailureOfSaveIsntCaught) {
   OpenAndEdit();
+  const std::string before = test.Disk(kPath);
   test.files.failingWrites[kPath] = FailureNumber::DiskFull;
   EXPECT_EQ(NumberThrownBy([&] { Save(); }), 61);
   EXPECT_EQ(test.desktop.shown, Texts{});
   EXPECT_EQ(MassInSnapshot(), "1");
   EXPECT_FALSE(test.vars.IsSaved);
-  EXPECT_EQ(test.Disk(kPath), "");
+  EXPECT_EQ(test.Disk(kPath), before);
 }
 
 TEST_F(SaveFileTest, ACancelledDialogOfSaveAsChangesNothing) {
@@ -278,7 +279,7 @@ TEST_F(SaveFileTest, ACancelledDialogOfSaveAsChangesNothing) {
   EXPECT_EQ(test.main.Title(), "GTAViceCity PC-Version - Wheelwright [/game/handling.cfg]");
 }
 
-TEST_F(SaveFileTest, AFailedWriteOfSaveAsLeavesTheSnapshotAheadAndTheTargetEmpty) {
+TEST_F(SaveFileTest, AFailedWriteOfSaveAsLeavesTheSnapshotAhead) {
   OpenAndEdit();
   test.files.failingWrites[kTarget] = FailureNumber::DiskFull;
   SaveAs(kTarget);
@@ -286,7 +287,7 @@ TEST_F(SaveFileTest, AFailedWriteOfSaveAsLeavesTheSnapshotAheadAndTheTargetEmpty
   EXPECT_EQ(MassInSnapshot(), "1");
   EXPECT_FALSE(test.vars.IsSaved);
   EXPECT_EQ(test.vars.CurrentFile, kPath);
-  EXPECT_EQ(test.Disk(kTarget), "");
+  EXPECT_FALSE(test.files.Exists(kTarget));
   EXPECT_EQ(test.main.Title(), "GTAViceCity PC-Version - Wheelwright [/game/handling.cfg]");
   EXPECT_TRUE(test.main.cmdSave.IsEnabled());
 }

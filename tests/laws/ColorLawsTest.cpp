@@ -214,7 +214,7 @@ RC_GTEST_PROP(ColorLaws, TheWriterWritesWhatAPlainOneWrites, ()) {
   test.vars.CurrentFile = kPath;
   test.vars.Colors = TableOf(tables.colors);
   test.vars.CarColors = TableOf(tables.carColors);
-  const std::string written = RewriteColorFile(test.session);
+  const std::string written = RewriteColorFile(test.session, kPath);
   const std::string palette = WritePalettePlainly(text, tables.colors);
   RC_ASSERT(test.Disk(kPath) == palette);
   RC_ASSERT(written == WritePairsPlainly(palette, tables.carColors));

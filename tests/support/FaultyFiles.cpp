@@ -2,6 +2,8 @@
 
 #include "core/Failure.h"
 
+#include <algorithm>
+
 namespace wheelwright::testing {
 namespace {
 
@@ -9,6 +11,12 @@ std::string FolderOf(const std::string& path) { return path.substr(0, path.rfind
 
 bool LiesIn(const std::string& path, const std::string& folder) {
   return path.starts_with(folder.ends_with('/') ? folder : folder + "/");
+}
+
+// Half of the new text lies over the old one.
+std::string HalfWay(const std::string& old, std::string_view text) {
+  const std::size_t half = text.size() / 2;
+  return std::string(text.substr(0, half)) + old.substr(std::min(half, old.size()));
 }
 
 template <class Container>
@@ -83,29 +91,19 @@ void FaultyFiles::Write(const std::string& path, std::string_view text) {
   if (fault == Fault::NoAccess || directories.contains(path)) {
     throw Failure(FailureNumber::PathFileAccess);
   }
-  disk.Write(path, text);
-  switch (fault) {
-    case Fault::Full:
-      disk.contents[path].clear();
-      throw Failure(FailureNumber::DiskFull);
-    case Fault::CutShort:
-      disk.contents[path] = FirstHalf(std::string(text));
-      throw Failure(FailureNumber::DiskFull);
-    case Fault::IoError:
-      disk.contents[path] = FirstHalf(std::string(text));
-      throw Failure(FailureNumber::DeviceIoError);
-    case Fault::CloseError:
-      throw Failure(FailureNumber::DeviceIoError);
-    default:
-      break;
-  }
+  if (fault == Fault::Full) throw Failure(FailureNumber::DiskFull);
+  const bool isHalf = fault == Fault::CutShort || fault == Fault::IoError;
+  disk.Write(path, isHalf ? HalfWay(disk.contents[path], text) : text);
+  if (fault == Fault::CutShort) throw Failure(FailureNumber::DiskFull);
+  if (isHalf || fault == Fault::CloseError) throw Failure(FailureNumber::DeviceIoError);
+}
+
+void FaultyFiles::CheckRoom(const std::string& path, std::string_view /*text*/) {
+  if (Enter(Operation::Room, path) == Fault::Full) throw Failure(FailureNumber::DiskFull);
 }
 
 void FaultyFiles::ClearAttributes(const std::string& path) {
-  if (Enter(Operation::Clear, path) == Fault::NoAccess) {
-    throw Failure(FailureNumber::PathFileAccess);
-  }
-  disk.ClearAttributes(path);
+  if (Enter(Operation::Clear, path) != Fault::NoAccess) disk.ClearAttributes(path);
 }
 
 std::vector<std::string> FaultyFiles::List(const std::string& directory) const {

@@ -10,7 +10,7 @@
 
 namespace wheelwright::testing {
 
-enum class Operation { Exists, Clear, Read, Write, List, Picture };
+enum class Operation { Exists, Clear, Read, Room, Write, List, Picture };
 
 // What goes wrong at one call. The first five are done to the disk just before the call and stay;
 // the others happen to the call alone.
@@ -22,10 +22,10 @@ enum class Fault {
   Directory,   // a directory lies in the file's place
   Changed,     // another program has put another text into the file
   NoAccess,    // the system refuses: no permission, or a file marked as read-only
-  Full,        // the file is emptied, then no byte finds room
-  CutShort,    // the disk is full behind the first half
-  IoError,     // the device fails; a write has left the first half, a listing gives the first half
-  CloseError,  // the device fails at the close, when all bytes seem to be out
+  Full,        // there is no room for the text
+  CutShort,    // room was promised, but the disk is full behind the first half
+  IoError,     // the device fails; a write has got half of the way, a listing gives the first half
+  CloseError,  // the device fails at the end, when all bytes seem to be out
 };
 
 // A call as the program made it, with the text of a write.
@@ -40,6 +40,7 @@ class FaultyFiles : public Files {
   bool Exists(const std::string& path) const override;
   std::string Read(const std::string& path) const override;
   void Write(const std::string& path, std::string_view text) override;
+  void CheckRoom(const std::string& path, std::string_view text) override;
   // A read and a write.
   void Copy(const std::string& from, const std::string& to) override { Write(to, Read(from)); }
   void ClearAttributes(const std::string& path) override;

@@ -12,10 +12,8 @@ std::string MemoryFiles::Read(const std::string& path) const {
 
 void MemoryFiles::Write(const std::string& path, std::string_view text) {
   if (readOnly.contains(path)) throw Failure(FailureNumber::PathFileAccess);
-  if (const auto fault = failingWrites.find(path); fault != failingWrites.end()) {
-    contents[path].clear();
+  if (const auto fault = failingWrites.find(path); fault != failingWrites.end())
     throw Failure(fault->second);
-  }
   contents[path] = text;
   written.push_back(path);
 }

@@ -4,6 +4,7 @@
 #include "replay/Json.h"
 
 #include <ostream>
+#include <stdexcept>
 
 namespace wheelwright::replay {
 
@@ -13,6 +14,7 @@ class ResultLines {
 
   void Print(const Json& line) {
     out_ << line.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n' << std::flush;
+    if (!out_) throw std::runtime_error("the result can't be written");
   }
 
  private:

@@ -1,3 +1,4 @@
+#include "core/DiskFiles.h"
 #include "replay/Options.h"
 #include "replay/PlainScreen.h"
 #include "replay/Player.h"
@@ -67,6 +68,7 @@ ExitCode Replay(const std::vector<std::string>& arguments) {
 
 int main(int count, char** arguments) {
   using namespace wheelwright::replay;
+  wheelwright::LetWritesFail();
   UseBytesAsTheyAre();
   std::vector<std::string> texts;
   for (int i = 1; i < count; ++i) texts.push_back(InUtf8(arguments[i]));

@@ -1,20 +1,20 @@
 // The disk of every system but Windows.
 #include "core/DiskFiles.h"
-#include "core/Failure.h"
+#include "core/posix/RegularFile.h"
+#include "core/posix/WholeFile.h"
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdio>
+#include <csignal>
+#include <fcntl.h>
 #include <filesystem>
-#include <memory>
 #include <system_error>
+#include <unistd.h>
 
 namespace wheelwright {
 namespace {
 
 namespace fs = std::filesystem;
-
-enum class Purpose { Reading, Writing };
 
 fs::path DiskPath(const std::string& path) {
   return fs::path(std::u8string(path.begin(), path.end()));
@@ -25,54 +25,6 @@ std::string PathText(const fs::path& path) {
   return {text.begin(), text.end()};
 }
 
-Failure FailureOf(int error, Purpose purpose) {
-  switch (error) {
-    case ENOENT:
-      return Failure(purpose == Purpose::Reading ? FailureNumber::FileNotFound
-                                                 : FailureNumber::PathNotFound);
-    case ENOTDIR:
-    case ENAMETOOLONG:
-      return Failure(FailureNumber::PathNotFound);
-    case EACCES:
-    case EPERM:
-    case EROFS:
-    case EISDIR:
-      return Failure(FailureNumber::PathFileAccess);
-    case ENOSPC:
-    case EFBIG:
-    case EDQUOT:
-      return Failure(FailureNumber::DiskFull);
-    case ENOMEM:
-      return Failure(FailureNumber::OutOfMemory);
-    default:
-      return Failure(FailureNumber::DeviceIoError);
-  }
-}
-
-bool FolderIsThere(const std::string& path) {
-  std::error_code ignored;
-  const fs::path folder = DiskPath(path).parent_path();
-  return folder.empty() || fs::is_directory(folder, ignored);
-}
-
-Failure FailureOfOpening(int error, Purpose purpose, const std::string& path) {
-  if (error == ENOENT && !FolderIsThere(path)) return Failure(FailureNumber::PathNotFound);
-  return FailureOf(error, purpose);
-}
-
-struct CloseFile {
-  void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using OpenFile = std::unique_ptr<std::FILE, CloseFile>;
-
-OpenFile Open(const std::string& path, Purpose purpose) {
-  errno = 0;
-  OpenFile file(std::fopen(path.c_str(), purpose == Purpose::Reading ? "rb" : "wb"));
-  if (!file) throw FailureOfOpening(errno, purpose, path);
-  std::setvbuf(file.get(), nullptr, _IONBF, 0);
-  return file;
-}
-
 bool IsReadOnly(const std::string& path) {
   std::error_code ignored;
   const fs::file_status status = fs::status(DiskPath(path), ignored);
@@ -81,13 +33,35 @@ bool IsReadOnly(const std::string& path) {
   return fs::is_regular_file(status) && (status.permissions() & kAnyoneMayWrite) == fs::perms::none;
 }
 
-std::size_t SizeHint(const std::string& path) {
-  std::error_code error;
-  const std::uintmax_t size = fs::file_size(DiskPath(path), error);
-  return error ? 0 : static_cast<std::size_t>(size);
+// Fills the text from this length on. The new length; the same at the end of the file.
+std::size_t ReadOn(int file, std::string& text, std::size_t length) {
+  for (;;) {
+    const ssize_t got = read(file, text.data() + length, text.size() - length);
+    if (got >= 0) return length + static_cast<std::size_t>(got);
+    if (errno != EINTR) throw FailureOf(errno, Purpose::Reading);
+  }
+}
+
+std::string ReadAll(const Descriptor& file) {
+  constexpr std::size_t kSmallestStep = 65536;
+  std::string text(static_cast<std::size_t>(FactsOf(file, Purpose::Reading).st_size) + 1, '\0');
+  std::size_t length = 0;
+  for (;;) {
+    const std::size_t before = length;
+    length = ReadOn(file.Number(), text, length);
+    if (length == before) break;
+    if (length == text.size()) text.resize(length + std::max(kSmallestStep, length));
+  }
+  text.resize(length);
+  return text;
 }
 
 }  // namespace
+
+void LetWritesFail() {
+  std::signal(SIGXFSZ, SIG_IGN);
+  std::signal(SIGPIPE, SIG_IGN);
+}
 
 bool DiskFiles::Exists(const std::string& path) const {
   std::error_code ignored;
@@ -96,35 +70,36 @@ bool DiskFiles::Exists(const std::string& path) const {
 }
 
 std::string DiskFiles::Read(const std::string& path) const {
-  const OpenFile file = Open(path, Purpose::Reading);
-  constexpr std::size_t kSmallestStep = 65536;
-  std::string text;
-  std::size_t length = 0;
-  for (std::size_t step = SizeHint(path) + 1;; step = std::max(kSmallestStep, length)) {
-    text.resize(length + step);
-    const std::size_t got = std::fread(text.data() + length, 1, step, file.get());
-    length += got;
-    if (got < step) break;
-  }
-  if (std::ferror(file.get()) != 0) throw FailureOf(errno, Purpose::Reading);
-  text.resize(length);
-  return text;
+  return ReadAll(OpenRegularFile(path, Purpose::Reading, O_RDONLY));
 }
 
 void DiskFiles::Write(const std::string& path, std::string_view text) {
-  if (IsReadOnly(path)) throw Failure(FailureNumber::PathFileAccess);
-  OpenFile file = Open(path, Purpose::Writing);
-  if (std::fwrite(text.data(), 1, text.size(), file.get()) != text.size()) {
-    throw FailureOf(errno, Purpose::Writing);
+  WholeFile(path).Write(text);
+}
+
+void DiskFiles::CheckRoom(const std::string& path, std::string_view text) {
+  try {
+    WholeFile(path).Reserve(text);
+  } catch (const Failure& failure) {
+    if (failure.Number() == FailureNumber::DiskFull) throw;
   }
-  if (std::fclose(file.release()) != 0) throw FailureOf(errno, Purpose::Writing);
+}
+
+// Until it has its model's mode, a new file is its owner's alone.
+void DiskFiles::Copy(const std::string& from, const std::string& to) {
+  constexpr mode_t kOwnerAlone = 0600;
+  const Descriptor model = OpenRegularFile(from, Purpose::Reading, O_RDONLY);
+  const std::string text = ReadAll(model);
+  WholeFile copy(to, kOwnerAlone);
+  copy.Reserve(text);
+  copy.ShareNoMoreThan(FactsOf(model, Purpose::Reading));
+  copy.Write(text);
 }
 
 void DiskFiles::ClearAttributes(const std::string& path) {
   if (!IsReadOnly(path)) return;
-  std::error_code error;
-  fs::permissions(DiskPath(path), fs::perms::owner_write, fs::perm_options::add, error);
-  if (error) throw FailureOf(error.value(), Purpose::Writing);
+  std::error_code ignored;
+  fs::permissions(DiskPath(path), fs::perms::owner_write, fs::perm_options::add, ignored);
 }
 
 std::vector<std::string> DiskFiles::NamesIn(const std::string& directory) {

@@ -3,27 +3,16 @@
 #include "core/windows/Failures.h"
 #include "core/windows/Path.h"
 #include "core/windows/Text.h"
+#include "core/windows/WholeFile.h"
 
 #include <algorithm>
-#include <memory>
+#include <vector>
 #include <windows.h>
 
 namespace wheelwright {
 namespace {
 
-// A single call moves at most this much.
-constexpr std::size_t kLargestStep = 1U << 24U;
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-
-struct CloseHandleOf {
-  void operator()(HANDLE handle) const { CloseHandle(handle); }
-};
-using OpenFile = std::unique_ptr<void, CloseHandleOf>;
-
-OpenFile Open(const std::wstring& path, DWORD access, DWORD share, DWORD how, DWORD flags) {
-  HANDLE handle = CreateFileW(path.c_str(), access, share, nullptr, how, flags, nullptr);
-  return OpenFile(handle == INVALID_HANDLE_VALUE ? nullptr : handle);
-}
 
 // The attributes of what a path leads to, through links; INVALID_FILE_ATTRIBUTES if that is
 // nothing.
@@ -32,8 +21,8 @@ DWORD AttributesOf(const std::wstring& path) {
   if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) {
     return attributes;
   }
-  const OpenFile file =
-      Open(path, FILE_READ_ATTRIBUTES, kShareAll, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS);
+  const Handle file = OpenAnything(path, FILE_READ_ATTRIBUTES, kShareAll, OPEN_EXISTING,
+                                   FILE_FLAG_BACKUP_SEMANTICS);
   BY_HANDLE_FILE_INFORMATION information{};
   if (!file || GetFileInformationByHandle(file.get(), &information) == FALSE) {
     return INVALID_FILE_ATTRIBUTES;
@@ -43,6 +32,25 @@ DWORD AttributesOf(const std::wstring& path) {
 
 bool IsFile(DWORD attributes) {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+}
+
+void RefuseReadOnly(const std::wstring& path) {
+  const DWORD attributes = AttributesOf(path);
+  if (IsFile(attributes) && (attributes & FILE_ATTRIBUTE_READONLY) != 0) {
+    throw Failure(FailureNumber::PathFileAccess);
+  }
+}
+
+// Who may do what with a file; empty where the disk knows nothing of that.
+std::vector<char> RightsOf(const std::wstring& path) {
+  DWORD size = 0;
+  GetFileSecurityW(path.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
+  std::vector<char> rights(size);
+  if (GetFileSecurityW(path.c_str(), DACL_SECURITY_INFORMATION, rights.data(), size, &size) ==
+      FALSE) {
+    rights.clear();
+  }
+  return rights;
 }
 
 std::size_t SizeHint(HANDLE file) {
@@ -57,30 +65,24 @@ std::size_t ReadInto(char* target, std::size_t room, HANDLE file) {
   return got;
 }
 
-std::size_t WriteFrom(std::string_view text, HANDLE file) {
-  DWORD put = 0;
-  const auto step = static_cast<DWORD>(std::min(text.size(), kLargestStep));
-  if (WriteFile(file, text.data(), step, &put, nullptr) == FALSE) {
-    throw FailureOfWriting(GetLastError());
-  }
-  if (put == 0) throw Failure(FailureNumber::DiskFull);
-  return put;
-}
-
 struct CloseSearch {
   void operator()(HANDLE search) const { FindClose(search); }
 };
 
 }  // namespace
 
+// Windows has no signals of that kind.
+void LetWritesFail() {}
+
 bool DiskFiles::Exists(const std::string& path) const {
   return IsFile(AttributesOf(DiskPath(path)));
 }
 
 std::string DiskFiles::Read(const std::string& path) const {
-  const OpenFile file = Open(DiskPath(path), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,
-                             OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN);
+  const Handle file = OpenAnything(DiskPath(path), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                   OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN);
   if (!file) throw FailureOfReading(GetLastError());
+  RefuseDevices(file);
   constexpr std::size_t kSmallestStep = 65536;
   std::string text(SizeHint(file.get()) + 1, '\0');
   std::size_t length = 0;
@@ -94,21 +96,31 @@ std::string DiskFiles::Read(const std::string& path) const {
 
 void DiskFiles::Write(const std::string& path, std::string_view text) {
   const std::wstring diskPath = DiskPath(path);
-  const DWORD attributes = AttributesOf(diskPath);
-  if (IsFile(attributes) && (attributes & FILE_ATTRIBUTE_READONLY) != 0) {
-    throw Failure(FailureNumber::PathFileAccess);
+  RefuseReadOnly(diskPath);
+  WholeFile(diskPath).Write(text);
+}
+
+void DiskFiles::CheckRoom(const std::string& path, std::string_view text) {
+  try {
+    WholeFile(DiskPath(path)).Reserve(text.size());
+  } catch (const Failure& failure) {
+    if (failure.Number() == FailureNumber::DiskFull) throw;
   }
-  OpenFile file =
-      Open(diskPath, GENERIC_WRITE, FILE_SHARE_READ, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL);
-  if (!file) throw FailureOfWriting(GetLastError());
-  while (!text.empty()) text.remove_prefix(WriteFrom(text, file.get()));
-  if (CloseHandle(file.release()) == FALSE) throw FailureOfWriting(GetLastError());
+}
+
+void DiskFiles::Copy(const std::string& from, const std::string& to) {
+  const std::string text = Read(from);
+  const std::wstring diskPath = DiskPath(to);
+  RefuseReadOnly(diskPath);
+  std::vector<char> rights = RightsOf(DiskPath(from));
+  SECURITY_ATTRIBUTES attributes{sizeof attributes, rights.data(), FALSE};
+  WholeFile(diskPath, rights.empty() ? nullptr : &attributes).Write(text);
+  // Where the read-only mark is one of the rights, as under wine, it has come along.
+  if ((AttributesOf(diskPath) & FILE_ATTRIBUTE_READONLY) != 0) ClearAttributes(to);
 }
 
 void DiskFiles::ClearAttributes(const std::string& path) {
-  if (SetFileAttributesW(DiskPath(path).c_str(), FILE_ATTRIBUTE_NORMAL) == FALSE) {
-    throw FailureOfWriting(GetLastError());
-  }
+  static_cast<void>(SetFileAttributesW(DiskPath(path).c_str(), FILE_ATTRIBUTE_NORMAL));
 }
 
 std::vector<std::string> DiskFiles::NamesIn(const std::string& directory) {

@@ -15,7 +15,7 @@ struct Row {
   FailureNumber number;
 };
 
-constexpr std::array<Row, 26> kRows = {{
+constexpr std::array<Row, 27> kRows = {{
     {ERROR_FILE_NOT_FOUND, FailureNumber::FileNotFound},
     {ERROR_PATH_NOT_FOUND, FailureNumber::PathNotFound},
     {ERROR_INVALID_DRIVE, FailureNumber::PathNotFound},
@@ -32,6 +32,7 @@ constexpr std::array<Row, 26> kRows = {{
     {ERROR_USER_MAPPED_FILE, FailureNumber::PathFileAccess},
     {ERROR_PRIVILEGE_NOT_HELD, FailureNumber::PathFileAccess},
     {ERROR_CANT_ACCESS_FILE, FailureNumber::PathFileAccess},
+    {ERROR_PIPE_BUSY, FailureNumber::PathFileAccess},
     {ERROR_SHARING_VIOLATION, FailureNumber::PermissionDenied},
     {ERROR_LOCK_VIOLATION, FailureNumber::PermissionDenied},
     {ERROR_DISK_FULL, FailureNumber::DiskFull},

@@ -7,7 +7,10 @@
 #include <random>
 #include <string>
 #include <vector>
+// clang-format off
 #include <windows.h>
+#include <sddl.h>
+// clang-format on
 
 namespace wheelwright::testing {
 namespace {
@@ -52,6 +55,23 @@ class WindowsDiskTest : public ::testing::Test {
   }
   static void SetAttributes(const std::string& path, DWORD attributes) {
     ASSERT_NE(SetFileAttributesW(WideOf(path).c_str(), attributes), FALSE);
+  }
+
+  // "D:" and the rights, or "O:" and the owner.
+  static std::wstring Written(const std::string& path, SECURITY_INFORMATION what) {
+    std::vector<char> rights(4096);
+    DWORD size = 0;
+    GetFileSecurityW(WideOf(path).c_str(), what, rights.data(), 4096, &size);
+    wchar_t* text = nullptr;
+    ConvertSecurityDescriptorToStringSecurityDescriptorW(rights.data(), SDDL_REVISION_1, what,
+                                                         &text, nullptr);
+    std::wstring written = text == nullptr ? L"" : text;
+    LocalFree(text);
+    return written;
+  }
+
+  static std::wstring RightsOf(const std::string& path) {
+    return Written(path, DACL_SECURITY_INFORMATION);
   }
 
   // Makes folders in the folder until a path in them is longer than 260 characters.
@@ -148,8 +168,66 @@ TEST_F(WindowsDiskTest, AFileThatAnotherProgramKeepsToItselfIsFailure70) {
   EXPECT_EQ(files_.Read(In("a.cfg")), "x");
 }
 
-TEST_F(WindowsDiskTest, AttributesOfNothingCantBeCleared) {
-  EXPECT_EQ(NumberThrownBy([&] { files_.ClearAttributes(In("a.cfg")); }), kPathNotFound);
+TEST_F(WindowsDiskTest, AttributesThatCantBeClearedStopNothing) {
+  files_.ClearAttributes(In("a.cfg"));
+  EXPECT_FALSE(files_.Exists(In("a.cfg")));
+}
+
+TEST_F(WindowsDiskTest, AttributesStayWhenAFileIsWritten) {
+  files_.Write(In("a.cfg"), "a longer text");
+  SetAttributes(In("a.cfg"), FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM);
+  files_.Write(In("a.cfg"), "new");
+  EXPECT_EQ(AttributesOf(In("a.cfg")) & kReadOnlyHiddenSystem,
+            static_cast<DWORD>(FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM));
+  EXPECT_EQ(files_.Read(In("a.cfg")), "new");
+}
+
+TEST_F(WindowsDiskTest, WhatIsNoFileIsFailure75) {
+  const std::string pipe = R"(\\.\pipe\wheelwright-disk-test)";
+  HANDLE server = CreateNamedPipeW(WideOf(pipe).c_str(), PIPE_ACCESS_DUPLEX, PIPE_TYPE_BYTE, 2, 0,
+                                   0, 0, nullptr);
+  ASSERT_NE(server, INVALID_HANDLE_VALUE);
+  for (const std::string& path : {pipe, std::string("NUL")}) {
+    EXPECT_EQ(WriteFailure(path), kNoAccess) << path;
+    EXPECT_EQ(NumberThrownBy([&] { files_.Read(path); }), kNoAccess) << path;
+  }
+  CloseHandle(server);
+}
+
+TEST_F(WindowsDiskTest, ATextWithoutRoomLeavesTheFile) {
+  files_.Write(In("a.cfg"), "old");
+  const std::string_view tooLong("x", std::size_t{1} << 62U);
+  EXPECT_NE(NumberThrownBy([&] { files_.Write(In("a.cfg"), tooLong); }), 0);
+  EXPECT_EQ(files_.Read(In("a.cfg")), "old");
+  EXPECT_NE(NumberThrownBy([&] { files_.Write(In("new.cfg"), tooLong); }), 0);
+  EXPECT_FALSE(files_.Exists(In("new.cfg")));
+}
+
+TEST_F(WindowsDiskTest, RoomIsCheckedWithoutAChange) {
+  files_.Write(In("a.cfg"), "old");
+  files_.CheckRoom(In("a.cfg"), "a longer text");
+  files_.CheckRoom(In("new.cfg"), "a text");
+  files_.CheckRoom(In("missing\\new.cfg"), "a text");
+  EXPECT_EQ(files_.Read(In("a.cfg")), "old");
+  EXPECT_FALSE(files_.Exists(In("new.cfg")));
+}
+
+TEST_F(WindowsDiskTest, ANewCopyHasTheRightsOfItsModel) {
+  files_.Write(In("a.cfg"), "x");
+  const std::wstring owner = Written(In("a.cfg"), OWNER_SECURITY_INFORMATION).substr(2);
+  PSECURITY_DESCRIPTOR ownerAlone = nullptr;
+  ASSERT_NE(ConvertStringSecurityDescriptorToSecurityDescriptorW(
+                (L"D:P(A;;FA;;;" + owner + L")").c_str(), SDDL_REVISION_1, &ownerAlone, nullptr),
+            FALSE);
+  ASSERT_NE(
+      SetFileSecurityW(WideOf(In("a.cfg")).c_str(),
+                       DACL_SECURITY_INFORMATION | PROTECTED_DACL_SECURITY_INFORMATION, ownerAlone),
+      FALSE);
+  LocalFree(ownerAlone);
+  files_.Write(In("other.cfg"), "x");
+  files_.Copy(In("a.cfg"), In("a.cfg.backup"));
+  EXPECT_EQ(RightsOf(In("a.cfg.backup")), RightsOf(In("a.cfg")));
+  EXPECT_NE(RightsOf(In("other.cfg")), RightsOf(In("a.cfg")));
 }
 
 TEST_F(WindowsDiskTest, AFolderWithoutANameListsNothing) {

@@ -5,6 +5,8 @@
 #include "forms/qt/QtDesktop.h"
 #include "screen/MainWindow.h"
 
+#include <sys/stat.h>
+
 #include <QBuffer>
 #include <QFile>
 #include <QImageReader>
@@ -92,6 +94,8 @@ TEST_F(AreaMirrorsTest, APictureIsToldByItsContentAndNotByItsName) {
   EXPECT_EQ(ReadPicture(Saved(Grid(30, 20), "bmp.jpg")).size(), QSize(30, 20));
   EXPECT_TRUE(ReadPicture(Saved(Grid(30, 20), "png.png")).isNull());
   EXPECT_TRUE(ReadPicture(Path("missing.bmp")).isNull());
+  ASSERT_EQ(mkfifo(Path("pipe.bmp").c_str(), 0600), 0);
+  EXPECT_TRUE(ReadPicture(Path("pipe.bmp")).isNull());
 }
 
 // Cameras write beside a photo which way it was held; the pictures of vehicles are shown as stored.
