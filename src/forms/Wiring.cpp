@@ -7,8 +7,7 @@
 #include "editor/ShowVehicle.h"
 #include "editor/TypeRules.h"
 #include "editor/WriteThrough.h"
-#include "exchange/ExportFile.h"
-#include "exchange/ExportWindow.h"
+#include "exchange/Export.h"
 #include "exchange/Import.h"
 #include "forms/Lifecycle.h"
 #include "gamefiles/BackupRevert.h"
@@ -102,7 +101,7 @@ void WireOtherWindows(Session& s) {
   window.cmdAddAll.clicked = [&window] { MoveAllRows(window.lst1, window.lst2); };
   window.cmdDelAll.clicked = [&window] { MoveAllRows(window.lst2, window.lst1); };
   window.cmdExport.clicked = Runs(s, ExportVehicles);
-  window.Spez.clicked = Runs(s, WriteTuningList);
+  window.Spez.clicked = Runs(s, WriteTuningFile);
 }
 
 }  // namespace

@@ -10,8 +10,6 @@
 
 namespace wheelwright {
 
-enum class TokenCheck { None, MustBeNumeric, MustNotBeNumeric };
-
 inline constexpr int kNoLang = -1;
 // The field isn't a row of a tab: the 28 flag boxes show it.
 inline constexpr int kNoTabRow = -1;
@@ -19,8 +17,6 @@ inline constexpr int kNoTabRow = -1;
 struct HandlingField {
   const char* name;  // as the record calls it
   std::string Car::*value;
-  const char* missing;  // what a line that is too short gives
-  TokenCheck check;
   bool namedInProblems;  // whether a failed check names the field by its label's caption
   int displayOrder;      // its place in the order in which a display fills the controls
   HandlingTab tab;

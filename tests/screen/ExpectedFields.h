@@ -25,8 +25,6 @@ struct ExpectedRow {
 struct ExpectedHandlingField {
   const char* name;
   std::string Car::*value;
-  const char* missing;
-  TokenCheck check;
   bool named;
   int order;
   ExpectedRow shown;
@@ -39,45 +37,42 @@ struct ExpectedDefinitionField {
   ExpectedRow shown;
 };
 
-inline constexpr TokenCheck kAny = TokenCheck::None;
-inline constexpr TokenCheck kNumber = TokenCheck::MustBeNumeric;
-inline constexpr TokenCheck kWord = TokenCheck::MustNotBeNumeric;
 
 // clang-format off
 inline const std::array<ExpectedHandlingField, 33> kExpectedHandlingFields = {{
-    {"CarName", &Car::CarName, "0.0", kWord, true, 1, {kGeneralTab, 0, "lblAutoname", "Autoname", 15, "txtAutoname", "lblAutonameInfo", "(Maximal 14 Buchstaben)", 16}},
-    {"Mass", &Car::Mass, "0.0", kNumber, true, 2, {kGeneralTab, 1, "lblGewicht", "Gewicht (kg)", 17, "txtGewicht", "lblGewichtInfo", "(1.0 bis 50000.0)", 18}},
-    {"DimensionX", &Car::DimensionX, "0.0", kNumber, true, 3, {kDimensionsTab, 0, "lblBreite", "Breite (m)", 19, "txtBreite", "lblBreiteInfo", "(0.0 > x > 20.0)", 20}},
-    {"DimensionY", &Car::DimensionY, "0.0", kNumber, true, 4, {kDimensionsTab, 1, "lblHoehe", "Höhe (m)", 21, "txtHoehe", "lblHoeheInfo", "(0.0 > x > 20.0)", 22}},
-    {"DimensionZ", &Car::DimensionZ, "0.0", kNumber, true, 5, {kDimensionsTab, 2, "lblLaenge", "Länge (m)", 23, "txtLaenge", "lblLaengeInfo", "(0.0 > x > 20.0)", 24}},
-    {"CenterOfMassX", &Car::CenterOfMassX, "0.0", kNumber, true, 6, {kDimensionsTab, 3, "lblMassenmittelpX", "Massenmittelp. X", 25, "txtMassenmittelpX", "lblMassenmittelpXInfo", "(-10.0 > x > 10.0)", 26}},
-    {"CenterOfMassY", &Car::CenterOfMassY, "0.0", kNumber, true, 7, {kDimensionsTab, 4, "lblMassenmittelpY", "Massenmittelp. Y", 27, "txtMassenmittelpY", "lblMassenmittelpYInfo", "(-10.0 > x > 10.0)", 28}},
-    {"CenterOfMassZ", &Car::CenterOfMassZ, "0.0", kNumber, true, 8, {kDimensionsTab, 5, "lblMassenmittelpZ", "Massenmittelp. Z", 29, "txtMassenmittelpZ", "lblMassenmittelpZInfo", "(-10.0 > x > 10.0)", 30}},
-    {"PercentSubmerged", &Car::PercentSubmerged, "0", kNumber, true, 9, {kDimensionsTab, 6, "lblSubMerged", "Versinkt (%)", 31, "txtSubMerged", "lblSubMergedInfo", "im Wasser (10 to 120)", 32}},
-    {"TractionMultiplier", &Car::TractionMultiplier, "0.0", kNumber, true, 10, {kDriveTab, 0, "lblTractionMulti", "Zugkraft - Multipl.", 33, "txtTractionMulti", "lblTractionMultiInfo", "(0.5 bis 2.0)", 34}},
-    {"TractionLoss", &Car::TractionLoss, "0.0", kNumber, true, 11, {kDriveTab, 1, "lblTractionLoss", "Zugkraft - Verlust", 35, "txtTractionLoss", "lblTractionLossInfo", "(0.0 > x > 1.0)", 36}},
-    {"TractionBias", &Car::TractionBias, "0.0", kNumber, true, 12, {kDriveTab, 2, "lblTractionBias", "Zugkraft - Vorsp.", 37, "txtTractionBias", "lblTractionBiasInfo", "(0.0 > x > 1.0)", 38}},
-    {"GearCount", &Car::GearCount, "0", kNumber, true, 14, {kDriveTab, 3, "lblGaenge", "Anzahl Gänge", 39, "txtGaenge", "lblGaengeInfo", "(1 bis 5)", 40}},
-    {"MaxVelocity", &Car::MaxVelocity, "0.0", kNumber, true, 15, {kDriveTab, 4, "lblGeschwindigkeit", "Geschw. (km/h)", 41, "txtGeschwindigkeit", "lblGeschwindigkeitInfo", "(5.0 bis 150.0)", 42}},
-    {"EngineAcceleration", &Car::EngineAcceleration, "0.0", kNumber, true, 16, {kDriveTab, 5, "lblBeschleunigung", "Beschl. (m/s^2)", 43, "txtBeschleunigung", "lblBeschleunigungInfo", "(0.1 bis 10.0)", 44}},
-    {"DriveType", &Car::DriveType, "F", kAny, false, 17, {kDriveTab, 6, "lblAntrieb", "Antrieb", 45, "cmbAntrieb", "", "", kNoLang}},
-    {"EngineType", &Car::EngineType, "P", kWord, true, 18, {kDriveTab, 7, "lblMotorTyp", "Motor-Typ", 49, "cmbMotor", "", "", kNoLang}},
-    {"BrakeDeceleration", &Car::BrakeDeceleration, "0.0", kNumber, true, 19, {kBrakesTab, 0, "lblBremsstaerke", "Bremsstärke", 53, "txtBremsstaerke", "lblBremsstaerkeInfo", "(0.1 bis 10.0)", 54}},
-    {"BrakeBias", &Car::BrakeBias, "0.0", kNumber, true, 20, {kBrakesTab, 1, "lblBrakeBias", "Brake Bias", 55, "txtBrakeBias", "lblBrakeBiasInfo", "(0.0 bis 1.0)", 56}},
-    {"ABS", &Car::ABS, "0", kNumber, true, 21, {kBrakesTab, 2, "lblABS", "ABS", 57, "chkABS", "", "", kNoLang}},
-    {"SteeringLock", &Car::SteeringLock, "0.0", kNumber, true, 22, {kSuspensionTab, 0, "lblRadeinschlag", "Radeinschlag", 58, "txtRadeinschlag", "lblRadeinschlagInfo", "(10.0 bis 40.0)", 59}},
-    {"SuspensionForceLevel", &Car::SuspensionForceLevel, "0.0", kNumber, true, 23, {kSuspensionTab, 1, "lblKraftlevel", "Kraftlevel", 65, "txtKraftlevel", "lblKraftlevelInfo", "(>= 0.0)", 66}},
-    {"SuspensionDampingLevel", &Car::SuspensionDampingLevel, "0.0", kNumber, true, 24, {kSuspensionTab, 2, "lblDLevel", "Dämpfungslevel", 67, "txtDLevel", "lblDLevelInfo", "(>= 0.0)", 68}},
-    {"SeatOffset", &Car::SeatOffset, "0.0", kNumber, true, 29, {kGeneralTab, 2, "lblPedSeat", "Ped Seat Offset", 75, "txtPedSeat", "lblPedSeatInfo", "(>= 0.0)", 76}},
-    {"CollisionDamageMultiplier", &Car::CollisionDamageMultiplier, "0.0", kNumber, true, 30, {kGeneralTab, 3, "lblKoll", "Koll.-Schaden-Multipl.", 77, "txtKoll", "lblKollInfo", "(0.2 bis 5.0)", 78}},
-    {"MonetaryValue", &Car::MonetaryValue, "0", kNumber, true, 31, {kGeneralTab, 4, "lblPreis", "Geldwert/Preis", 79, "txtPreis", "lblPreisInfo", "(1 bis 100000)", 80}},
-    {"suspension_upper_limit", &Car::suspension_upper_limit, "0.0", kNumber, true, 25, {kSuspensionTab, 3, "lblOLimit", "Oberes Limit", 69, "txtOLimit", "lblOLimitInfo", "(-1.0 bis 1.0)", 70}},
-    {"suspension_lower_limit", &Car::suspension_lower_limit, "0.0", kNumber, true, 26, {kSuspensionTab, 4, "lblULimit", "Unteres Limit", 71, "txtULimit", "lblULimitInfo", "(-1.0 bis 1.0)", 72}},
-    {"SuspensionBias", &Car::SuspensionBias, "0.0", kNumber, true, 27, {kSuspensionTab, 5, "lblBias", "Bias between F/R", 73, "txtBias", "lblBiasInfo", "(-1.0 bis 1.0)", 74}},
-    {"SuspensionAntiDive", &Car::SuspensionAntiDive, "0.0", kNumber, false, 28, {kSuspensionTab, 6, "lblDive", "Anti-Tauch Multipl", 178, "txtDive", "lblDiveInfo", "(-1.0 bis 1.0)", 179}},
-    {"ModelFlags", &Car::ModelFlags, "0000000", kAny, false, 34, {kFlagsTab, kNoTabRow, "", "", kNoLang, "", "", "", kNoLang}},
-    {"FrontLights", &Car::FrontLights, "0", kNumber, true, 32, {kGeneralTab, 5, "lblFrontLichter", "Vorderlichter", 81, "cmbFrontLichter", "", "", kNoLang}},
-    {"RearLights", &Car::RearLights, "0", kNumber, true, 33, {kGeneralTab, 6, "lblRearLichter", "Hinterlichter", 86, "cmbRearLichter", "", "", kNoLang}},
+    {"CarName", &Car::CarName, true, 1, {kGeneralTab, 0, "lblAutoname", "Autoname", 15, "txtAutoname", "lblAutonameInfo", "(Maximal 14 Buchstaben)", 16}},
+    {"Mass", &Car::Mass, true, 2, {kGeneralTab, 1, "lblGewicht", "Gewicht (kg)", 17, "txtGewicht", "lblGewichtInfo", "(1.0 bis 50000.0)", 18}},
+    {"DimensionX", &Car::DimensionX, true, 3, {kDimensionsTab, 0, "lblBreite", "Breite (m)", 19, "txtBreite", "lblBreiteInfo", "(0.0 > x > 20.0)", 20}},
+    {"DimensionY", &Car::DimensionY, true, 4, {kDimensionsTab, 1, "lblHoehe", "Höhe (m)", 21, "txtHoehe", "lblHoeheInfo", "(0.0 > x > 20.0)", 22}},
+    {"DimensionZ", &Car::DimensionZ, true, 5, {kDimensionsTab, 2, "lblLaenge", "Länge (m)", 23, "txtLaenge", "lblLaengeInfo", "(0.0 > x > 20.0)", 24}},
+    {"CenterOfMassX", &Car::CenterOfMassX, true, 6, {kDimensionsTab, 3, "lblMassenmittelpX", "Massenmittelp. X", 25, "txtMassenmittelpX", "lblMassenmittelpXInfo", "(-10.0 > x > 10.0)", 26}},
+    {"CenterOfMassY", &Car::CenterOfMassY, true, 7, {kDimensionsTab, 4, "lblMassenmittelpY", "Massenmittelp. Y", 27, "txtMassenmittelpY", "lblMassenmittelpYInfo", "(-10.0 > x > 10.0)", 28}},
+    {"CenterOfMassZ", &Car::CenterOfMassZ, true, 8, {kDimensionsTab, 5, "lblMassenmittelpZ", "Massenmittelp. Z", 29, "txtMassenmittelpZ", "lblMassenmittelpZInfo", "(-10.0 > x > 10.0)", 30}},
+    {"PercentSubmerged", &Car::PercentSubmerged, true, 9, {kDimensionsTab, 6, "lblSubMerged", "Versinkt (%)", 31, "txtSubMerged", "lblSubMergedInfo", "im Wasser (10 to 120)", 32}},
+    {"TractionMultiplier", &Car::TractionMultiplier, true, 10, {kDriveTab, 0, "lblTractionMulti", "Zugkraft - Multipl.", 33, "txtTractionMulti", "lblTractionMultiInfo", "(0.5 bis 2.0)", 34}},
+    {"TractionLoss", &Car::TractionLoss, true, 11, {kDriveTab, 1, "lblTractionLoss", "Zugkraft - Verlust", 35, "txtTractionLoss", "lblTractionLossInfo", "(0.0 > x > 1.0)", 36}},
+    {"TractionBias", &Car::TractionBias, true, 12, {kDriveTab, 2, "lblTractionBias", "Zugkraft - Vorsp.", 37, "txtTractionBias", "lblTractionBiasInfo", "(0.0 > x > 1.0)", 38}},
+    {"GearCount", &Car::GearCount, true, 14, {kDriveTab, 3, "lblGaenge", "Anzahl Gänge", 39, "txtGaenge", "lblGaengeInfo", "(1 bis 5)", 40}},
+    {"MaxVelocity", &Car::MaxVelocity, true, 15, {kDriveTab, 4, "lblGeschwindigkeit", "Geschw. (km/h)", 41, "txtGeschwindigkeit", "lblGeschwindigkeitInfo", "(5.0 bis 150.0)", 42}},
+    {"EngineAcceleration", &Car::EngineAcceleration, true, 16, {kDriveTab, 5, "lblBeschleunigung", "Beschl. (m/s^2)", 43, "txtBeschleunigung", "lblBeschleunigungInfo", "(0.1 bis 10.0)", 44}},
+    {"DriveType", &Car::DriveType, false, 17, {kDriveTab, 6, "lblAntrieb", "Antrieb", 45, "cmbAntrieb", "", "", kNoLang}},
+    {"EngineType", &Car::EngineType, true, 18, {kDriveTab, 7, "lblMotorTyp", "Motor-Typ", 49, "cmbMotor", "", "", kNoLang}},
+    {"BrakeDeceleration", &Car::BrakeDeceleration, true, 19, {kBrakesTab, 0, "lblBremsstaerke", "Bremsstärke", 53, "txtBremsstaerke", "lblBremsstaerkeInfo", "(0.1 bis 10.0)", 54}},
+    {"BrakeBias", &Car::BrakeBias, true, 20, {kBrakesTab, 1, "lblBrakeBias", "Brake Bias", 55, "txtBrakeBias", "lblBrakeBiasInfo", "(0.0 bis 1.0)", 56}},
+    {"ABS", &Car::ABS, true, 21, {kBrakesTab, 2, "lblABS", "ABS", 57, "chkABS", "", "", kNoLang}},
+    {"SteeringLock", &Car::SteeringLock, true, 22, {kSuspensionTab, 0, "lblRadeinschlag", "Radeinschlag", 58, "txtRadeinschlag", "lblRadeinschlagInfo", "(10.0 bis 40.0)", 59}},
+    {"SuspensionForceLevel", &Car::SuspensionForceLevel, true, 23, {kSuspensionTab, 1, "lblKraftlevel", "Kraftlevel", 65, "txtKraftlevel", "lblKraftlevelInfo", "(>= 0.0)", 66}},
+    {"SuspensionDampingLevel", &Car::SuspensionDampingLevel, true, 24, {kSuspensionTab, 2, "lblDLevel", "Dämpfungslevel", 67, "txtDLevel", "lblDLevelInfo", "(>= 0.0)", 68}},
+    {"SeatOffset", &Car::SeatOffset, true, 29, {kGeneralTab, 2, "lblPedSeat", "Ped Seat Offset", 75, "txtPedSeat", "lblPedSeatInfo", "(>= 0.0)", 76}},
+    {"CollisionDamageMultiplier", &Car::CollisionDamageMultiplier, true, 30, {kGeneralTab, 3, "lblKoll", "Koll.-Schaden-Multipl.", 77, "txtKoll", "lblKollInfo", "(0.2 bis 5.0)", 78}},
+    {"MonetaryValue", &Car::MonetaryValue, true, 31, {kGeneralTab, 4, "lblPreis", "Geldwert/Preis", 79, "txtPreis", "lblPreisInfo", "(1 bis 100000)", 80}},
+    {"suspension_upper_limit", &Car::suspension_upper_limit, true, 25, {kSuspensionTab, 3, "lblOLimit", "Oberes Limit", 69, "txtOLimit", "lblOLimitInfo", "(-1.0 bis 1.0)", 70}},
+    {"suspension_lower_limit", &Car::suspension_lower_limit, true, 26, {kSuspensionTab, 4, "lblULimit", "Unteres Limit", 71, "txtULimit", "lblULimitInfo", "(-1.0 bis 1.0)", 72}},
+    {"SuspensionBias", &Car::SuspensionBias, true, 27, {kSuspensionTab, 5, "lblBias", "Bias between F/R", 73, "txtBias", "lblBiasInfo", "(-1.0 bis 1.0)", 74}},
+    {"SuspensionAntiDive", &Car::SuspensionAntiDive, false, 28, {kSuspensionTab, 6, "lblDive", "Anti-Tauch Multipl", 178, "txtDive", "lblDiveInfo", "(-1.0 bis 1.0)", 179}},
+    {"ModelFlags", &Car::ModelFlags, false, 34, {kFlagsTab, kNoTabRow, "", "", kNoLang, "", "", "", kNoLang}},
+    {"FrontLights", &Car::FrontLights, true, 32, {kGeneralTab, 5, "lblFrontLichter", "Vorderlichter", 81, "cmbFrontLichter", "", "", kNoLang}},
+    {"RearLights", &Car::RearLights, true, 33, {kGeneralTab, 6, "lblRearLichter", "Hinterlichter", 86, "cmbRearLichter", "", "", kNoLang}},
 }};
 
 inline const std::array<ExpectedDefinitionField, 13> kExpectedDefinitionFields = {{

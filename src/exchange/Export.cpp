@@ -1,0 +1,88 @@
+#include "exchange/Export.h"
+
+#include "formats/ExportFile.h"
+#include "gamefiles/FileKinds.h"
+#include "screen/Captions.h"
+#include "screen/Guarded.h"
+#include "screen/HandlingFields.h"
+
+#include <string>
+#include <vector>
+
+namespace wheelwright {
+namespace {
+
+// A dialog of its own, which keeps nothing from use to use.
+std::string ChooseTarget(Session& session) {
+  FileDialog dialog;
+  dialog.filter = FilterOfKind(session, kFileKinds[kHandlingFile]);
+  dialog.flags = FileDialog::kOverwritePrompt;
+  session.desktop.ShowSave(dialog);
+  return dialog.file;
+}
+
+WrittenVehicles ChosenVehicles(const Session& session) {
+  return {.names = session.exporter.lst2.Rows(),
+          .cars = session.vars.Cars,
+          .author = session.main.txtAuthor.Text(),
+          .created = session.main.txtDate.Text()};
+}
+
+}  // namespace
+
+void OpenExportWindow(Session& session) {
+  FrmExport& window = session.exporter;
+  CaptionExportWindow(session);
+  window.lst1.Clear();
+  window.lst2.Clear();
+  window.lst1.AddRows(session.main.cmbAutos.Rows());
+  window.SetVisible(true);
+}
+
+void CaptionExportWindow(Session& session) {
+  for (const CaptionRow& row : CaptionsOf(session.exporter)) {
+    if (row.lang != kNoLang)
+      row.control.SetCaption(session.vars.Lang[static_cast<std::size_t>(row.lang)]);
+  }
+}
+
+void MoveMarkedRows(MarkList& from, MarkList& to) {
+  std::vector<std::string> marked;
+  for (const int row : from.Marked()) marked.push_back(from.Rows()[static_cast<std::size_t>(row)]);
+  to.AddRows(marked);
+  from.RemoveMarked();
+}
+
+void MoveAllRows(MarkList& from, MarkList& to) {
+  to.AddRows(from.Rows());
+  from.Clear();
+}
+
+void UnloadExportWindow(Session& session) {
+  FrmExport& window = session.exporter;
+  window.SetVisible(false);
+  window.lst1.Clear();
+  window.lst2.Clear();
+}
+
+void ExportVehicles(Session& session) {
+  if (session.exporter.lst2.Count() == 0) return;
+  Guarded(session, [&] {
+    const std::string target = ChooseTarget(session);
+    const WrittenVehicles vehicles = ChosenVehicles(session);
+    // The header stands in the file before the first vehicle is looked for.
+    session.files.Write(target, ExportHeader(vehicles));
+    session.files.Write(target, WriteExport(vehicles));
+    session.desktop.ShowInformation(Message(session, 113));
+    UnloadExportWindow(session);
+  });
+}
+
+void WriteTuningFile(Session& session) {
+  if (session.exporter.lst2.Count() == 0) return;
+  const std::string target = ChooseTarget(session);
+  session.files.Write(target, "");
+  session.files.Write(target, WriteTuningList(ChosenVehicles(session)));
+}
+
+}  // namespace wheelwright
