@@ -4,7 +4,6 @@
 #include "gamefiles/FileKinds.h"
 #include "screen/Captions.h"
 #include "screen/Guarded.h"
-#include "screen/HandlingFields.h"
 
 #include <string>
 #include <vector>

@@ -1,6 +1,6 @@
 #include "gamefiles/LoadProblems.h"
 
-#include "screen/HandlingFields.h"
+#include "screen/Fields.h"
 
 #include <algorithm>
 
@@ -10,9 +10,9 @@ namespace {
 // Empty for a problem with the whole line and for a field that isn't named in problems.
 std::string CaptionOf(const FrmMain& main, std::string Car::*value) {
   const auto field = std::find_if(kHandlingFields.begin(), kHandlingFields.end(),
-                                  [&](const HandlingField& row) { return row.value == value; });
-  const bool isNamed = field != kHandlingFields.end() && field->namedInProblems;
-  return isNamed ? (main.*field->label).Caption() : "";
+                                  [&](const FieldRow<Car>& row) { return row.value == value; });
+  const bool isNamed = field != kHandlingFields.end() && field->isNamedInProblems;
+  return isNamed ? (main.*field->label.control).Caption() : "";
 }
 
 ReportList::Row RowOf(const Session& session, const LineProblem& problem) {

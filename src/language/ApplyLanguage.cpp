@@ -1,8 +1,7 @@
 #include "language/ApplyLanguage.h"
 
 #include "screen/Captions.h"
-#include "screen/DefinitionFields.h"
-#include "screen/HandlingFields.h"
+#include "screen/Fields.h"
 
 #include <string>
 #include <vector>
@@ -20,22 +19,17 @@ class Applier {
     }
   }
 
-  void ApplyHandlingTabs() const {
-    for (const HandlingField& field : kHandlingFields) {
-      if (field.label != nullptr) (main_.*field.label).SetCaption(Entry(field.captionLang));
-      if (field.info != nullptr) (main_.*field.info).SetCaption(Entry(field.infoLang));
-    }
-    for (const CodeList& list : kCodeLists) {
-      PickList& pick = main_.*list.pick;
-      for (int row = 0; row < pick.Count(); ++row)
-        pick.ReplaceRow(row, Entry(list.firstLang + row));
-    }
-  }
-
-  void ApplyDefinitionTabs() const {
-    for (const DefinitionField& field : kDefinitionFields) {
-      (main_.*field.label).SetCaption(Entry(field.captionLang));
-      (main_.*field.info).SetCaption(Entry(field.infoLang));
+  template <class Fields>
+  void ApplyFields(const Fields& fields) const {
+    for (const auto& field : fields) {
+      for (const FieldCaption& caption : {field.label, field.hint}) {
+        if (caption.control != nullptr) (main_.*caption.control).SetCaption(Entry(caption.lang));
+      }
+      if (field.entries.firstLang == kNoLang) continue;
+      PickList& list = *InputOf<PickList>(main_, field);
+      for (int row = 0; row < list.Count(); ++row) {
+        list.ReplaceRow(row, Entry(field.entries.firstLang + row));
+      }
     }
   }
 
@@ -65,8 +59,8 @@ void ApplyLanguage(Session& session) {
   const Applier applier(session);
   applier.ApplyCaptions(CaptionsOf(session.main));
   applier.ApplyTabs();
-  applier.ApplyHandlingTabs();
-  applier.ApplyDefinitionTabs();
+  applier.ApplyFields(kHandlingFields);
+  applier.ApplyFields(kDefinitionFields);
   applier.ApplyCaptions(CaptionsOf(session.error));
   applier.ApplyColumns();
   applier.ApplyCaptions(CaptionsOf(session.exporter));

@@ -1,7 +1,5 @@
 #include "screen/Captions.h"
 
-#include "screen/HandlingFields.h"
-
 namespace wheelwright {
 
 std::vector<CaptionRow> CaptionsOf(FrmMain& m) {

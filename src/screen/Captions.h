@@ -9,10 +9,13 @@
 
 namespace wheelwright {
 
+// Of a caption that is in no language.
+inline constexpr int kNoLang = -1;
+
 struct CaptionRow {
   Captioned& control;
   const char* design;  // UTF-8
-  int lang;            // kNoLang where a caption is never translated
+  int lang;
 };
 
 struct TabCaptionRow {

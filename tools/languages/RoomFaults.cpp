@@ -5,7 +5,7 @@
 #include "languages/Sightings.h"
 #include "replay/OnScreen.h"
 #include "replay/RealScreen.h"
-#include "screen/HandlingFields.h"
+#include "screen/Fields.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,7 @@
 #include "soak/Laws.h"
 
 #include "replay/Names.h"
+#include "support/VehicleTokens.h"
 
 #include <set>
 #include <string>
