@@ -1,15 +1,9 @@
 #include "formats/ColorFile.h"
 
-#include "core/Numbers.h"
-#include "formats/Lines.h"
-#include "formats/Sections.h"
-#include "formats/Tokenisers.h"
-
 namespace wheelwright {
 namespace {
 
 constexpr std::size_t kLongestLineWithoutColor = 4;
-constexpr int kMandatoryFields = 3;
 
 // Works on the raw line: without a tab the colour is black, whatever the line says.
 void TakeColor(std::string_view line, std::int16_t index, ColorEntry& color) {
@@ -76,29 +70,11 @@ void ReadPalette(std::string_view text, PaletteSection& section) {
 }
 
 void ReadPairs(std::string_view text, PairsSection& section) {
-  section.carColors.Reset();
-  Counter16 records;
-  Counter16 lineNumber;
-  bool inSection = false;
-  for (const std::string_view rawLine : Lines(text)) {
-    lineNumber.Step();
-    const std::string_view line = BeforeMark(rawLine, '#');
-    if (line.starts_with("end")) inSection = false;
-    if (inSection && !line.empty()) {
-      CommaLine fields(line);
-      if (fields.CountCommaFields() < kMandatoryFields) {
-        section.damagedLine = lineNumber.Value();
-        return;
-      }
-      section.carColors.ExtendTo(records.Value());
-      CarColorEntry& entry = section.carColors.At(records.Value());
-      entry.ModelName = fields.GetCommaField(0);
-      section.names.push_back(entry.ModelName);
-      TakePairs(fields, entry);
-      records.Step();
-    }
-    if (line.starts_with("car")) inSection = true;
-  }
+  ReadSection(text, {.opening = "car", .mandatoryFields = 3, .nameField = 0}, section,
+              [&](CommaLine& line, CarColorEntry& entry) {
+                entry.ModelName = section.names.back();
+                TakePairs(line, entry);
+              });
 }
 
 // Colour lines carry a comment of their own, so only a "#" this far in front makes a line a

@@ -11,12 +11,10 @@
 #pragma once
 
 #include "core/Records.h"
-#include "core/Table.h"
+#include "formats/Sections.h"
 
-#include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace wheelwright {
 
@@ -25,11 +23,8 @@ struct PaletteSection {
   int count = 0;  // of the colours read whole; the table is never without a record
 };
 
-struct PairsSection {
-  std::vector<std::string> names;  // the model of each line read
-  Table<CarColorEntry> carColors;
-  std::optional<int> damagedLine;  // counted from 1; a damaged line ends the reading
-};
+// The names are those of the models.
+using PairsSection = RecordSection<CarColorEntry>;
 
 // Failures 13 and 6 for numbers that aren't any or don't fit; failure 6 past 32,767 lines or
 // records. What was read until then is in the section.

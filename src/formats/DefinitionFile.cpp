@@ -1,29 +1,26 @@
 #include "formats/DefinitionFile.h"
 
-#include "core/Numbers.h"
-#include "formats/Lines.h"
-#include "formats/Sections.h"
-#include "formats/Tokenisers.h"
+#include <span>
 
 namespace wheelwright {
 namespace {
 
-constexpr std::size_t kMandatoryFields = 11;
+constexpr int kMandatoryFields = 11;
 constexpr std::size_t kShortText = 7;
 
 // The first count sees a comma at the end of the line as a field; taking the fields strips such
 // commas, so that the later counts may see fewer.
 void TakeFields(CommaLine& line, IdeEntry& entry) {
-  for (std::size_t position = 0; position < kMandatoryFields; ++position) {
-    entry.*kDefinitionValues[position].value = line.GetCommaField(static_cast<int>(position));
+  int position = 0;
+  for (const DefinitionValue& field : std::span(kDefinitionValues).first(kMandatoryFields)) {
+    entry.*field.value = line.GetCommaField(position++);
   }
   if (line.CountCommaFields() >= 12) entry.Extra1 = line.GetCommaField(11);
   if (line.CountCommaFields() >= 13) entry.Extra2 = line.GetCommaField(12);
 }
 
 void AddDefinitionLine(std::string& out, const IdeEntry& entry) {
-  for (std::size_t position = 0; position < kMandatoryFields; ++position) {
-    const DefinitionValue& field = kDefinitionValues[position];
+  for (const DefinitionValue& field : std::span(kDefinitionValues).first(kMandatoryFields)) {
     const std::string& value = entry.*field.value;
     out.append(value).append(field.separator);
     if (field.tabBehindShortText && value.size() < kShortText) out += '\t';
@@ -52,27 +49,8 @@ const std::array<DefinitionValue, 13> kDefinitionValues = {{
 }};
 
 void ReadDefinitions(std::string_view text, DefinitionFile& file) {
-  file.ides.Reset();
-  Counter16 records;
-  Counter16 lineNumber;
-  bool inSection = false;
-  for (const std::string_view rawLine : Lines(text)) {
-    lineNumber.Step();
-    const std::string_view line = BeforeMark(rawLine, '#');
-    if (line.starts_with("end")) inSection = false;
-    if (inSection && !line.empty()) {
-      CommaLine fields(line);
-      if (fields.CountCommaFields() < static_cast<int>(kMandatoryFields)) {
-        file.damagedLine = lineNumber.Value();
-        return;
-      }
-      file.names.emplace_back(fields.GetCommaField(4));
-      file.ides.ExtendTo(records.Value());
-      TakeFields(fields, file.ides.At(records.Value()));
-      records.Step();
-    }
-    if (line.starts_with("cars")) inSection = true;
-  }
+  ReadSection(text, {.opening = "cars", .mandatoryFields = kMandatoryFields, .nameField = 4}, file,
+              TakeFields);
 }
 
 std::string WriteDefinitions(std::string_view onDisk, const Table<IdeEntry>& ides) {

@@ -6,13 +6,11 @@
 #pragma once
 
 #include "core/Records.h"
-#include "core/Table.h"
+#include "formats/Sections.h"
 
 #include <array>
-#include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace wheelwright {
 
@@ -26,13 +24,10 @@ struct DefinitionValue {
 // The thirteen fields in the order of a line.
 extern const std::array<DefinitionValue, 13> kDefinitionValues;
 
-struct DefinitionFile {
-  std::vector<std::string> names;  // the handling ID of each line read
-  Table<IdeEntry> ides;
-  std::optional<int> damagedLine;  // counted from 1; a damaged line ends the reading
-};
+// The names are the handling IDs.
+using DefinitionFile = RecordSection<IdeEntry>;
 
-// Failure 6 past 32,767 lines or records. What was read until then is in the file.
+// Failures as those of ReadSection.
 void ReadDefinitions(std::string_view text, DefinitionFile& file);
 
 // The new text of a file, without the line end of the final write: the whole table takes the place

@@ -1,8 +1,5 @@
 #include "formats/Sections.h"
 
-#include "core/Text.h"
-#include "formats/Lines.h"
-
 namespace wheelwright {
 
 Banner::Banner(char mark)

@@ -78,7 +78,7 @@ void CopyIdes(Vars& vars, Snapshots way) { CopyTable(vars.Ides, vars.Kopie_Ides,
 std::optional<int> LoadDefinitions(Session& session, std::string_view text) {
   DefinitionFile file;
   ReadAndTake([&] { ReadDefinitions(text, file); },
-              [&] { session.vars.Kopie_Ides = std::move(file.ides); });
+              [&] { session.vars.Kopie_Ides = std::move(file.records); });
   if (file.damagedLine) return file.damagedLine;
   session.main.cmbAutos.AddRows(std::move(file.names));
   CopyIdes(session.vars, Snapshots::PutBack);
@@ -117,7 +117,7 @@ std::optional<int> LoadColors(Session& session, std::string_view text) {
   LoadPalette(session, text);
   PairsSection pairs;
   ReadAndTake([&] { ReadPairs(text, pairs); },
-              [&] { session.vars.Kopie_CarColors = std::move(pairs.carColors); });
+              [&] { session.vars.Kopie_CarColors = std::move(pairs.records); });
   if (pairs.damagedLine) return pairs.damagedLine;
   session.main.cmbAutos.AddRows(std::move(pairs.names));
   FillColorPickLists(session.main);

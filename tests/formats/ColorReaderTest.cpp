@@ -20,7 +20,7 @@ struct Read {
         })) {}
 
   Texts Colors() const { return TextsOf(palette.colors); }
-  Texts Pairs() const { return TextsOf(pairs.carColors); }
+  Texts Pairs() const { return TextsOf(pairs.records); }
 
   PaletteSection palette;
   PairsSection pairs;
@@ -251,7 +251,7 @@ TEST(ColorReader, ReadsAsManyLinesAsSixteenBitsCount) {
   for (int line = 5; line < 32768; ++line) text += "bus,0,0\r\n";
   const Read test(text);
   EXPECT_EQ(test.pairs.damagedLine, std::nullopt);
-  EXPECT_EQ(test.pairs.carColors.Count(), 32763);
+  EXPECT_EQ(test.pairs.records.Count(), 32763);
   EXPECT_EQ(Read(text + "\r\n").failure, kOverflow);
 }
 
@@ -260,7 +260,7 @@ TEST(ColorReader, AVehicleTakesAsManyPairsAsSixteenBitsCountFields) {
   for (int pair = 0; pair < 16383; ++pair) line += ",0,1";
   const Read test(Vehicles({line}));
   EXPECT_EQ(test.pairs.damagedLine, std::nullopt);
-  EXPECT_EQ(test.pairs.carColors.At(0).Color1.size(), 16383U);
+  EXPECT_EQ(test.pairs.records.At(0).Color1.size(), 16383U);
   EXPECT_EQ(Read(Vehicles({line + ","})).failure, kOverflow);
 }
 

@@ -16,15 +16,15 @@ class Opened {
   }
 
   std::string Saved() {
-    onDisk = WritePairs(WritePalette(onDisk, palette.colors) + "\r\n", pairs.carColors) + "\r\n";
+    onDisk = WritePairs(WritePalette(onDisk, palette.colors) + "\r\n", pairs.records) + "\r\n";
     return onDisk;
   }
 
   // As edits leave them.
   void GiveTheFirstColorMoreRed() { palette.colors.At(0).Red = 200; }
   void GiveTheFirstVehicleAPair() {
-    pairs.carColors.At(0).Color1.push_back(0);
-    pairs.carColors.At(0).Color2.push_back(0);
+    pairs.records.At(0).Color1.push_back(0);
+    pairs.records.At(0).Color2.push_back(0);
   }
 
   std::string onDisk;

@@ -19,7 +19,7 @@ class Opened {
   explicit Opened(const std::string& text) : onDisk(text) { ReadDefinitions(text, file); }
 
   std::string Saved() {
-    onDisk = WriteDefinitions(onDisk, file.ides) + "\r\n";
+    onDisk = WriteDefinitions(onDisk, file.records) + "\r\n";
     return onDisk;
   }
 
@@ -148,7 +148,7 @@ TEST(DefinitionWriter, AVehicleWithACommentStandsOnceMoreAfterEachLoadAndSave) {
 
 TEST(DefinitionWriter, ASectionOpenedWithACommentIsNeverSeenAndItsEditsAreLost) {
   Opened test(CrLf({"cars # vehicles", Boat("H"), "end"}));
-  test.file.ides.At(0).ID = "99";
+  test.file.records.At(0).ID = "99";
   EXPECT_EQ(test.Saved(), File({"cars # vehicles", Boat("H"), "end"}));
 }
 
@@ -166,7 +166,7 @@ TEST(DefinitionWriter, WithoutAnotherEndEverythingUpToTheEndOfTheFileIsDropped) 
 
 TEST(DefinitionWriter, ASectionOfLinesWithCommentsGetsNoTable) {
   Opened test(CrLf({"cars", Boat("H") + " # a", "# b", "end"}));
-  test.file.ides.At(0).ID = "99";
+  test.file.records.At(0).ID = "99";
   EXPECT_EQ(test.Saved(), File({"cars", Boat("H") + " # a", "# b", "end"}));
 }
 

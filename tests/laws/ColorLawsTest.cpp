@@ -169,7 +169,7 @@ struct Opened {
   }
 
   std::string Saved() {
-    onDisk = WritePairs(WritePalette(onDisk, palette.colors) + "\r\n", pairs.carColors) + "\r\n";
+    onDisk = WritePairs(WritePalette(onDisk, palette.colors) + "\r\n", pairs.records) + "\r\n";
     return onDisk;
   }
 
@@ -192,7 +192,7 @@ RC_GTEST_PROP(ColorLaws, TheReaderReadsWhatAPlainOneReads, ()) {
     return;
   }
   RC_ASSERT(NumberThrownBy([&] { ReadPairs(text, pairs); }) == plain.failure);
-  RC_ASSERT(RecordsOf(pairs.carColors) == plain.carColors);
+  RC_ASSERT(RecordsOf(pairs.records) == plain.carColors);
   RC_ASSERT(pairs.damagedLine.value_or(0) == plain.damagedLine);
   RC_ASSERT(pairs.names == plain.keys);
 }
@@ -222,7 +222,7 @@ RC_GTEST_PROP(ColorLaws, ASaveChangesNothingAroundTheSections, ()) {
   colors.ExtendTo(number);
   colors.At(number) = {number, 0, 128, 255, "new"};
   file.colors.push_back("0,128,255\t\t\t# " + std::to_string(number) + " new");
-  CarColorEntry& last = opened.pairs.carColors.At(opened.pairs.carColors.UpperBound());
+  CarColorEntry& last = opened.pairs.records.At(opened.pairs.records.UpperBound());
   last.Color1.push_back(0);
   last.Color2.push_back(-7);
   file.vehicles.back() += ", 0, -7";
@@ -236,7 +236,7 @@ RC_GTEST_PROP(ColorLaws, TheSavedFileGivesTheSameTablesWithTheColorsNumberedAnew
   const Opened again(opened.Saved());
   opened.palette.colors.At(changed).Index = static_cast<std::int16_t>(changed);
   RC_ASSERT(RecordsOf(again.palette.colors) == RecordsOf(opened.palette.colors));
-  RC_ASSERT(RecordsOf(again.pairs.carColors) == RecordsOf(opened.pairs.carColors));
+  RC_ASSERT(RecordsOf(again.pairs.records) == RecordsOf(opened.pairs.records));
 }
 
 RC_GTEST_PROP(ColorLaws, ASaveKeepsEveryCommentOutsideThePalette, ()) {

@@ -130,7 +130,7 @@ struct Opened {
   explicit Opened(const std::string& text) : onDisk(text) { ReadDefinitions(text, file); }
 
   std::string Saved() {
-    onDisk = WriteDefinitions(onDisk, file.ides) + "\r\n";
+    onDisk = WriteDefinitions(onDisk, file.records) + "\r\n";
     return onDisk;
   }
 
@@ -143,7 +143,7 @@ RC_GTEST_PROP(DefinitionLaws, TheReaderReadsWhatAPlainOneReads, ()) {
   const DefinitionFile file = Opened(text).file;
   const PlainDefinitions plain = ReadDefinitionsPlainly(text);
   RC_ASSERT(file.damagedLine.value_or(0) == plain.damagedLine);
-  RC_ASSERT(RecordsOf(file.ides) == plain.records);
+  RC_ASSERT(RecordsOf(file.records) == plain.records);
   RC_ASSERT(file.names == plain.keys);
 }
 
@@ -156,7 +156,7 @@ RC_GTEST_PROP(DefinitionLaws, TheWriterWritesWhatAPlainOneWrites, ()) {
 RC_GTEST_PROP(DefinitionLaws, ASaveChangesNothingAroundTheSection, ()) {
   const GoodFile file = AnyGoodFile();
   Opened opened(Told(file.Text()));
-  opened.file.ides.At(0).GameName = "edited";
+  opened.file.records.At(0).GameName = "edited";
   const std::string saved = opened.Saved();
   const std::string head = kBanner + file.before + "cars\r\n";
   const std::string tail = "end\r\n" + file.behind + "\r\n";
@@ -178,9 +178,9 @@ IdeEntry AsWritten(IdeEntry entry) {
 
 RC_GTEST_PROP(DefinitionLaws, TheSavedFileGivesTheSameTableButForTheExtrasThatItLacks, ()) {
   Opened opened(Told(AnyGoodFile().Text()));
-  std::vector<IdeEntry> expected = RecordsOf(opened.file.ides);
+  std::vector<IdeEntry> expected = RecordsOf(opened.file.records);
   std::transform(expected.begin(), expected.end(), expected.begin(), AsWritten);
-  RC_ASSERT(RecordsOf(Opened(opened.Saved()).file.ides) == expected);
+  RC_ASSERT(RecordsOf(Opened(opened.Saved()).file.records) == expected);
 }
 
 RC_GTEST_PROP(DefinitionLaws, ASavedFileThatIsLoadedAndSavedAgainOnlyGrowsByAnEmptyLine, ()) {
