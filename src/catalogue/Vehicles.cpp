@@ -2,7 +2,6 @@
 
 #include "core/Numbers.h"
 #include "formats/HandlingLine.h"
-#include "screen/Guarded.h"
 
 #include <string>
 

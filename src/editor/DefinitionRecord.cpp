@@ -1,7 +1,6 @@
-#include "editor/DefinitionRecord.h"
-
 #include "core/Numbers.h"
 #include "editor/ForeignEntry.h"
+#include "editor/ShowVehicle.h"
 #include "editor/TypeRules.h"
 #include "editor/VehiclePicture.h"
 #include "screen/Fields.h"

@@ -1,7 +1,6 @@
-#include "editor/HandlingRecord.h"
-
 #include "core/Numbers.h"
 #include "editor/ModelFlags.h"
+#include "editor/ShowVehicle.h"
 #include "editor/VehiclePicture.h"
 #include "screen/Fields.h"
 

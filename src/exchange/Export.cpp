@@ -3,7 +3,6 @@
 #include "formats/ExportFile.h"
 #include "gamefiles/FileKinds.h"
 #include "screen/Captions.h"
-#include "screen/Guarded.h"
 
 #include <string>
 #include <vector>
@@ -39,10 +38,7 @@ void OpenExportWindow(Session& session) {
 }
 
 void CaptionExportWindow(Session& session) {
-  for (const CaptionRow& row : CaptionsOf(session.exporter)) {
-    if (row.lang != kNoLang)
-      row.control.SetCaption(session.vars.Lang[static_cast<std::size_t>(row.lang)]);
-  }
+  ApplyCaptions(CaptionsOf(session.exporter), session.vars.Lang);
 }
 
 void MoveMarkedRows(MarkList& from, MarkList& to) {

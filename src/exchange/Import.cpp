@@ -3,7 +3,6 @@
 #include "formats/ExportFile.h"
 #include "gamefiles/FileKinds.h"
 #include "gamefiles/LoadProblems.h"
-#include "screen/Guarded.h"
 
 #include <string>
 

@@ -1,7 +1,6 @@
 #include "gamefiles/BackupRevert.h"
 
 #include "gamefiles/FileKinds.h"
-#include "screen/Guarded.h"
 
 #include <string>
 

@@ -150,12 +150,12 @@ std::string LabelOf(const Session& session, const FileKind& kind) {
 }  // namespace
 
 const std::array<FileKind, 3> kFileKinds = {{
-    {kHandlingFile, 1, "cfg", "cfg.backup", 14, true, &FrmMain::SSTab1, LoadHandling,
+    {kHandlingFile, 1, "cfg", "cfg.backup", 14, true, true, &FrmMain::SSTab1, LoadHandling,
      RewrittenHandling, CopyCars, ListCars},
-    {kDefinitionFile, 2, "ide", "ide.backup", 122, true, &FrmMain::SSTab2, LoadDefinitions,
+    {kDefinitionFile, 2, "ide", "ide.backup", 122, false, true, &FrmMain::SSTab2, LoadDefinitions,
      RewrittenDefinitions, CopyIdes, ListIdes},
-    {kColorFile, 3, "dat", "dat.backup", 152, false, &FrmMain::SSTab3, LoadColors, RewrittenColors,
-     CopyColors, ListPaletteAndPairs},
+    {kColorFile, 3, "dat", "dat.backup", 152, false, false, &FrmMain::SSTab3, LoadColors,
+     RewrittenColors, CopyColors, ListPaletteAndPairs},
 }};
 
 const FileKind& KindOfOpenFile(const Vars& vars) {

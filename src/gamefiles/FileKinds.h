@@ -20,6 +20,7 @@ struct FileKind {
   const char* ending;           // the last characters of the name, compared with case
   const char* endingOfBackups;  // the same of a backup
   int langName;                 // the kind's name in file dialogs
+  bool hasAuthor;               // whether it names its author and date
   bool hasSaveFilter;           // whether a save dialog has a filter of the kind's own
   TabGroup FrmMain::*tabs;
 

@@ -83,7 +83,7 @@ void OpenChosenFile(Session& session) {
   if (kind == nullptr) return EndWithError(session, "Error: Filetype unknown!");
   session.vars.CurrentFileType = kind->type;
   ShowTabsOf(main, *kind);
-  if (kind->type == kHandlingFile) {
+  if (kind->hasAuthor) {
     main.txtAuthor.SetText("");
     main.txtDate.SetText("");
   }

@@ -2,7 +2,6 @@
 
 #include "core/Text.h"
 #include "gamefiles/FileKinds.h"
-#include "screen/Guarded.h"
 
 #include <string>
 

@@ -56,6 +56,12 @@ std::vector<CaptionRow> CaptionsOf(FrmExport& e) {
   };
 }
 
+void ApplyCaptions(const std::vector<CaptionRow>& rows, std::span<const std::string> lang) {
+  for (const CaptionRow& row : rows) {
+    if (row.lang != kNoLang) row.control.SetCaption(lang[static_cast<std::size_t>(row.lang)]);
+  }
+}
+
 std::vector<TabCaptionRow> TabCaptionsOf(FrmMain& m) {
   return {
       {m.SSTab1, kGeneralTab, "Allgemein", 2},

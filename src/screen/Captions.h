@@ -5,6 +5,8 @@
 #include "screen/MainWindow.h"
 #include "screen/OtherWindows.h"
 
+#include <span>
+#include <string>
 #include <vector>
 
 namespace wheelwright {
@@ -34,6 +36,9 @@ struct ColumnCaptionRow {
 std::vector<CaptionRow> CaptionsOf(FrmMain& main);
 std::vector<CaptionRow> CaptionsOf(FrmError& error);
 std::vector<CaptionRow> CaptionsOf(FrmExport& exporter);
+// Puts the entries of a language table onto the controls.
+void ApplyCaptions(const std::vector<CaptionRow>& rows, std::span<const std::string> lang);
+
 std::vector<TabCaptionRow> TabCaptionsOf(FrmMain& main);
 std::vector<ColumnCaptionRow> ColumnCaptions();
 

@@ -1,6 +1,6 @@
 #include "languages/RoomFaults.h"
 
-#include "editor/HandlingRecord.h"
+#include "editor/ShowVehicle.h"
 #include "language/ApplyLanguage.h"
 #include "languages/Sightings.h"
 #include "replay/OnScreen.h"

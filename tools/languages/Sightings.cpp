@@ -1,6 +1,6 @@
 #include "languages/Sightings.h"
 
-#include "editor/HandlingRecord.h"
+#include "editor/ShowVehicle.h"
 #include "editor/TypeRules.h"
 #include "language/ApplyLanguage.h"
 #include "replay/Names.h"
