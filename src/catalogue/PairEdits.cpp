@@ -2,6 +2,7 @@
 
 #include "core/Numbers.h"
 #include "core/Text.h"
+#include "gamefiles/FileKinds.h"
 
 #include <string>
 #include <unordered_map>
@@ -56,10 +57,7 @@ void RefreshPickLists(Session& session, int leftTab) {
   FrmMain& main = session.main;
   main.cmbColor1.Clear();
   main.cmbColor2.Clear();
-  main.cmbColor1.AddRows(main.lstColors.Rows());
-  main.cmbColor2.AddRows(main.lstColors.Rows());
-  main.cmbColor1.Choose(0);
-  main.cmbColor2.Choose(0);
+  FillColorPickLists(main);
 }
 
 void FillSwatch(Session& session, const PickList& list, Swatch& swatch) {

@@ -2,7 +2,6 @@
 
 #include "core/Numbers.h"
 #include "gamefiles/PaletteLabel.h"
-#include "screen/Guarded.h"
 
 #include <algorithm>
 #include <string>

@@ -1,8 +1,7 @@
 #include "catalogue/Vehicles.h"
 
 #include "core/Numbers.h"
-#include "screen/Guarded.h"
-#include "screen/HandlingFields.h"
+#include "formats/HandlingLine.h"
 
 #include <string>
 
@@ -11,7 +10,7 @@ namespace {
 
 // A new vehicle is a line without tokens but for its name, an empty anti-dive and four flag digits.
 void FillBlankVehicle(Car& car, const std::string& name) {
-  for (const HandlingField& field : kHandlingFields) car.*field.value = field.missing;
+  for (const HandlingToken& token : kHandlingTokens) car.*token.value = token.missing;
   car.CarName = name;
   car.SuspensionAntiDive.clear();
   car.ModelFlags = "0000";

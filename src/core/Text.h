@@ -32,4 +32,8 @@ bool EqualsIgnoringCase(std::string_view left, std::string_view right);
 // before its continuations. Negative, zero or positive as left stands before, with or behind right.
 int CompareIgnoringCase(std::string_view left, std::string_view right);
 
+inline bool SortsBefore(std::string_view left, std::string_view right) {
+  return CompareIgnoringCase(left, right) < 0;
+}
+
 }  // namespace wheelwright

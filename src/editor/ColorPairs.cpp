@@ -1,6 +1,5 @@
-#include "editor/ColorPairs.h"
-
 #include "core/Numbers.h"
+#include "editor/ShowVehicle.h"
 
 #include <string>
 #include <unordered_map>

@@ -1,9 +1,8 @@
-#include "editor/HandlingRecord.h"
-
 #include "core/Numbers.h"
 #include "editor/ModelFlags.h"
+#include "editor/ShowVehicle.h"
 #include "editor/VehiclePicture.h"
-#include "screen/HandlingFields.h"
+#include "screen/Fields.h"
 
 #include <algorithm>
 #include <array>
@@ -30,14 +29,14 @@ constexpr std::array<BoatCaption, 9> kBoatCaptions = {{
     {&FrmMain::lblBias, 177},
 }};
 
-// The captions are set between the fields of this order and the next one.
-constexpr int kLastFieldBeforeCaptions = 12;
+// The captions are set between this field and the next one.
+constexpr auto kLastFieldBeforeCaptions = &Car::TractionBias;
 
 Car& CurrentCarOf(Session& session) { return session.vars.Cars.At(session.vars.CurrentCar); }
 
-const HandlingField& FieldOf(Label FrmMain::*label) {
+const FieldRow<Car>& FieldOf(Label FrmMain::*label) {
   return *std::find_if(kHandlingFields.begin(), kHandlingFields.end(),
-                       [=](const HandlingField& field) { return field.label == label; });
+                       [=](const FieldRow<Car>& field) { return field.label.control == label; });
 }
 
 // The snapshot only has the vehicles of the last load or save; one behind its end is an ordinary
@@ -48,11 +47,11 @@ std::int16_t LineKindOfSnapshot(const Vars& vars) {
 }
 
 // A code that stands for no entry leaves the list as it was.
-void ShowCode(Session& session, const CodeList& list) {
-  const std::string code = CurrentCarOf(session).*list.value;
-  const std::string_view codes = list.codes;
+void ShowCode(Session& session, const FieldRow<Car>& field, PickList& list) {
+  const std::string code = CurrentCarOf(session).*field.value;
+  const std::string_view codes = field.entries.codes;
   for (std::size_t row = 0; row < codes.size(); ++row) {
-    if (code == codes.substr(row, 1)) (session.main.*list.pick).Choose(static_cast<int>(row));
+    if (code == codes.substr(row, 1)) list.Choose(static_cast<int>(row));
   }
 }
 
@@ -67,12 +66,13 @@ void ShowABS(Session& session) {
   abs = text;
 }
 
-void ShowField(Session& session, const HandlingField& field) {
-  if (field.text != nullptr) (session.main.*field.text).SetText(CurrentCarOf(session).*field.value);
-  if (field.tick != nullptr) ShowABS(session);
-  if (field.pick == nullptr) return;
-  for (const CodeList& list : kCodeLists) {
-    if (list.pick == field.pick) ShowCode(session, list);
+void ShowField(Session& session, const FieldRow<Car>& field) {
+  if (auto* const text = InputOf<TextBox>(session.main, field)) {
+    text->SetText(CurrentCarOf(session).*field.value);
+  } else if (auto* const list = InputOf<PickList>(session.main, field)) {
+    ShowCode(session, field, *list);
+  } else {
+    ShowABS(session);
   }
 }
 
@@ -83,9 +83,9 @@ void ShowHandlingRecord(Session& session) {
   const std::string key = session.main.cmbAutos.Text();
   ShowVehiclePicture(session, key, session.main.picCar);
   vars.CurrentCar = Checked16(std::max(0, vars.Cars.First(&Car::CarName, key)));
-  for (const HandlingField* field : HandlingFieldsByDisplay()) {
-    ShowField(session, *field);
-    if (field->displayOrder == kLastFieldBeforeCaptions) {
+  for (const FieldRow<Car>& field : kHandlingFields) {
+    ShowField(session, field);
+    if (field.value == kLastFieldBeforeCaptions) {
       ApplyLineKindCaptions(session, LineKindOfSnapshot(vars));
     }
   }
@@ -97,9 +97,9 @@ void ApplyLineKindCaptions(Session& session, std::int16_t lineKind) {
   const auto entry = [&](int index) { return lang[static_cast<std::size_t>(index)]; };
   const bool boat = lineKind == kPercentLine;
   for (const BoatCaption& caption : kBoatCaptions) {
-    const HandlingField& field = FieldOf(caption.label);
-    (session.main.*field.label).SetCaption(entry(boat ? caption.lang : field.captionLang));
-    (session.main.*field.info).SetCaption(boat ? "" : entry(field.infoLang));
+    const FieldRow<Car>& field = FieldOf(caption.label);
+    (session.main.*caption.label).SetCaption(entry(boat ? caption.lang : field.label.lang));
+    (session.main.*field.hint.control).SetCaption(boat ? "" : entry(field.hint.lang));
   }
 }
 

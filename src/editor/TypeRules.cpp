@@ -1,7 +1,7 @@
 #include "editor/TypeRules.h"
 
 #include "editor/ForeignEntry.h"
-#include "screen/FixedEntries.h"
+#include "screen/Fields.h"
 
 #include <array>
 #include <string>

@@ -16,18 +16,18 @@ void RenameChosenEntry(Session& session, const std::string& text) {
 
 }  // namespace
 
-void StoreHandlingText(Session& session, const HandlingField& field) {
-  const std::string& text = (session.main.*field.text).Text();
+void StoreHandlingText(Session& session, const FieldRow<Car>& field) {
+  const std::string& text = InputOf<TextBox>(session.main, field)->Text();
   CurrentCarOf(session).*field.value = text;
   session.vars.IsSaved = false;
   if (field.value == &Car::CarName) RenameChosenEntry(session, text);
 }
 
-void StoreCode(Session& session, const CodeList& list) {
-  const int row = (session.main.*list.pick).Row();
-  const std::string_view codes = list.codes;
+void StoreCode(Session& session, const FieldRow<Car>& field) {
+  const int row = InputOf<PickList>(session.main, field)->Row();
+  const std::string_view codes = field.entries.codes;
   if (row >= 0 && row < static_cast<int>(codes.size())) {
-    CurrentCarOf(session).*list.value = codes.substr(static_cast<std::size_t>(row), 1);
+    CurrentCarOf(session).*field.value = codes.substr(static_cast<std::size_t>(row), 1);
   }
   session.vars.IsSaved = false;
 }
@@ -37,16 +37,16 @@ void StoreABS(Session& session) {
   session.vars.IsSaved = false;
 }
 
-void StoreDefinitionText(Session& session, const DefinitionField& field) {
-  const std::string& text = (session.main.*field.text).Text();
+void StoreDefinitionText(Session& session, const FieldRow<IdeEntry>& field) {
+  const std::string& text = InputOf<TextBox>(session.main, field)->Text();
   session.vars.IsSaved = false;
   CurrentIdeOf(session).*field.value = text;
   if (field.value == &IdeEntry::HandlingID) RenameChosenEntry(session, text);
 }
 
-void StoreDefinitionPick(Session& session, const DefinitionField& field) {
+void StoreDefinitionPick(Session& session, const FieldRow<IdeEntry>& field) {
   session.vars.IsSaved = false;
-  CurrentIdeOf(session).*field.value = (session.main.*field.pick).Text();
+  CurrentIdeOf(session).*field.value = InputOf<PickList>(session.main, field)->Text();
 }
 
 void MarkAsChanged(Session& session) { session.vars.IsSaved = false; }

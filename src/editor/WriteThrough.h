@@ -3,27 +3,26 @@
 // the current index is outside the table.
 #pragma once
 
-#include "screen/DefinitionFields.h"
-#include "screen/HandlingFields.h"
+#include "screen/Fields.h"
 #include "screen/Session.h"
 
 namespace wheelwright {
 
 // A text box of the handling tabs. The name also takes the place of the chosen entry of cmbAutos,
 // which stays where it is in the list.
-void StoreHandlingText(Session& session, const HandlingField& field);
+void StoreHandlingText(Session& session, const FieldRow<Car>& field);
 
 // A pick list whose entries are translated: the code of the chosen position.
-void StoreCode(Session& session, const CodeList& list);
+void StoreCode(Session& session, const FieldRow<Car>& field);
 
 // chkABS: its state in decimal.
 void StoreABS(Session& session);
 
 // A text box of the definition tabs. The handling ID also takes the place of the chosen entry.
-void StoreDefinitionText(Session& session, const DefinitionField& field);
+void StoreDefinitionText(Session& session, const FieldRow<IdeEntry>& field);
 
 // A pick list of the definition tabs: the text of the chosen entry.
-void StoreDefinitionPick(Session& session, const DefinitionField& field);
+void StoreDefinitionPick(Session& session, const FieldRow<IdeEntry>& field);
 
 // txtAuthor and txtDate, which no table holds.
 void MarkAsChanged(Session& session);

@@ -7,8 +7,7 @@
 #include "editor/ShowVehicle.h"
 #include "editor/TypeRules.h"
 #include "editor/WriteThrough.h"
-#include "exchange/ExportFile.h"
-#include "exchange/ExportWindow.h"
+#include "exchange/Export.h"
 #include "exchange/Import.h"
 #include "forms/Lifecycle.h"
 #include "gamefiles/BackupRevert.h"
@@ -46,12 +45,13 @@ void WireCommands(Session& s) {
 }
 
 void WireHandlingTabs(Session& s) {
-  for (const HandlingField& field : kHandlingFields) {
-    if (field.text == nullptr) continue;
-    (s.main.*field.text).changed = [&s, &field] { StoreHandlingText(s, field); };
-  }
-  for (const CodeList& list : kCodeLists) {
-    (s.main.*list.pick).clicked = [&s, &list] { StoreCode(s, list); };
+  for (const FieldRow<Car>& field : kHandlingFields) {
+    if (auto* const text = InputOf<TextBox>(s.main, field)) {
+      text->changed = [&s, &field] { StoreHandlingText(s, field); };
+    }
+    if (auto* const list = InputOf<PickList>(s.main, field)) {
+      list->clicked = [&s, &field] { StoreCode(s, field); };
+    }
   }
   for (std::size_t i = 0; i < kFlagCount; ++i) {
     const int flag = static_cast<int>(i) + 1;
@@ -63,12 +63,12 @@ void WireHandlingTabs(Session& s) {
 }
 
 void WireDefinitionTabs(Session& s) {
-  for (const DefinitionField& field : kDefinitionFields) {
-    if (field.text != nullptr) {
-      (s.main.*field.text).changed = [&s, &field] { StoreDefinitionText(s, field); };
+  for (const FieldRow<IdeEntry>& field : kDefinitionFields) {
+    if (auto* const text = InputOf<TextBox>(s.main, field)) {
+      text->changed = [&s, &field] { StoreDefinitionText(s, field); };
     }
-    if (field.pick != nullptr) {
-      (s.main.*field.pick).clicked = [&s, &field] { StoreDefinitionPick(s, field); };
+    if (auto* const list = InputOf<PickList>(s.main, field)) {
+      list->clicked = [&s, &field] { StoreDefinitionPick(s, field); };
     }
   }
   s.main.cmbTyp.clicked = Runs(s, StoreType);
@@ -102,7 +102,7 @@ void WireOtherWindows(Session& s) {
   window.cmdAddAll.clicked = [&window] { MoveAllRows(window.lst1, window.lst2); };
   window.cmdDelAll.clicked = [&window] { MoveAllRows(window.lst2, window.lst1); };
   window.cmdExport.clicked = Runs(s, ExportVehicles);
-  window.Spez.clicked = Runs(s, WriteTuningList);
+  window.Spez.clicked = Runs(s, WriteTuningFile);
 }
 
 }  // namespace

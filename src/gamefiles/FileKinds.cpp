@@ -1,15 +1,169 @@
 #include "gamefiles/FileKinds.h"
 
-#include <string_view>
+#include "core/Text.h"
+#include "formats/ColorFile.h"
+#include "formats/DefinitionFile.h"
+#include "formats/HandlingFile.h"
+#include "gamefiles/LoadProblems.h"
+#include "gamefiles/PaletteLabel.h"
+
+#include <utility>
+#include <vector>
 
 namespace wheelwright {
 namespace {
+
+template <class Record>
+void CopyTable(Table<Record>& table, Table<Record>& snapshot, Snapshots way) {
+  if (way == Snapshots::Take) {
+    snapshot = table;
+  } else {
+    table = snapshot;
+  }
+}
+
+template <class Record>
+void ListKeys(PickList& list, const Table<Record>& table, std::string Record::*key) {
+  std::vector<std::string> keys;
+  for (const Record& record : table.Walk()) keys.push_back(record.*key);
+  list.AddRows(std::move(keys));
+}
+
+void ListColors(ListBox& list, const Table<ColorEntry>& colors, int count) {
+  std::vector<std::string> labels;
+  for (int index = 0; index < count; ++index) labels.push_back(PaletteLabel(colors.At(index)));
+  list.Clear();
+  list.AddRows(std::move(labels));
+}
+
+// The handling file
+
+void CopyCars(Vars& vars, Snapshots way) { CopyTable(vars.Cars, vars.Kopie_Cars, way); }
+
+void TakeHandling(Session& session, HandlingFile& file) {
+  session.main.txtAuthor.SetText(std::move(file.author));
+  session.main.txtDate.SetText(std::move(file.created));
+  session.main.cmbAutos.AddRows(std::move(file.names));
+  session.vars.Kopie_Cars = std::move(file.cars);
+  session.error.lstErrors.Clear();
+  // The rows of the names are gone again, the window stays.
+  if (file.hasOddNames) session.error.SetVisible(true);
+  AddLoadProblems(session, file.problems);
+}
+
+std::optional<int> LoadHandling(Session& session, std::string_view text) {
+  HandlingFile file;
+  ReadAndTake([&] { ReadHandling(text, file); }, [&] { TakeHandling(session, file); });
+  CopyCars(session.vars, Snapshots::PutBack);
+  return std::nullopt;
+}
+
+std::string RewrittenHandling(Session& session, const std::string& /*target*/) {
+  const FrmMain& main = session.main;
+  return WriteHandling(session.files.Read(session.vars.CurrentFile),
+                       {.names = main.cmbAutos.Rows(),
+                        .cars = session.vars.Cars,
+                        .author = main.txtAuthor.Text(),
+                        .created = main.txtDate.Text()});
+}
+
+void ListCars(Session& session) {
+  ListKeys(session.main.cmbAutos, session.vars.Cars, &Car::CarName);
+}
+
+// The definition file
+
+void CopyIdes(Vars& vars, Snapshots way) { CopyTable(vars.Ides, vars.Kopie_Ides, way); }
+
+std::optional<int> LoadDefinitions(Session& session, std::string_view text) {
+  DefinitionFile file;
+  ReadAndTake([&] { ReadDefinitions(text, file); },
+              [&] { session.vars.Kopie_Ides = std::move(file.records); });
+  if (file.damagedLine) return file.damagedLine;
+  session.main.cmbAutos.AddRows(std::move(file.names));
+  CopyIdes(session.vars, Snapshots::PutBack);
+  return std::nullopt;
+}
+
+std::string RewrittenDefinitions(Session& session, const std::string& /*target*/) {
+  return WriteDefinitions(session.files.Read(session.vars.CurrentFile), session.vars.Ides);
+}
+
+void ListIdes(Session& session) {
+  ListKeys(session.main.cmbAutos, session.vars.Ides, &IdeEntry::HandlingID);
+}
+
+// The colour file
+
+void CopyPalette(Vars& vars, Snapshots way) { CopyTable(vars.Colors, vars.Kopie_Colors, way); }
+void CopyPairs(Vars& vars, Snapshots way) { CopyTable(vars.CarColors, vars.Kopie_CarColors, way); }
+
+void CopyColors(Vars& vars, Snapshots way) {
+  CopyPalette(vars, way);
+  CopyPairs(vars, way);
+}
+
+void LoadPalette(Session& session, std::string_view text) {
+  PaletteSection palette;
+  ReadAndTake([&] { ReadPalette(text, palette); },
+              [&] {
+                ListColors(session.main.lstColors, palette.colors, palette.count);
+                session.vars.Kopie_Colors = std::move(palette.colors);
+              });
+  CopyPalette(session.vars, Snapshots::PutBack);
+}
+
+std::optional<int> LoadColors(Session& session, std::string_view text) {
+  LoadPalette(session, text);
+  PairsSection pairs;
+  ReadAndTake([&] { ReadPairs(text, pairs); },
+              [&] { session.vars.Kopie_CarColors = std::move(pairs.records); });
+  if (pairs.damagedLine) return pairs.damagedLine;
+  session.main.cmbAutos.AddRows(std::move(pairs.names));
+  FillColorPickLists(session.main);
+  CopyPairs(session.vars, Snapshots::PutBack);
+  return std::nullopt;
+}
+
+// The palette goes into the open file first, whatever file the whole is saved to. Both texts are
+// made before, and a second one without room doesn't leave the open file with the first.
+std::string RewrittenColors(Session& session, const std::string& target) {
+  const Vars& vars = session.vars;
+  std::string palette = WritePalette(session.files.Read(vars.CurrentFile), vars.Colors);
+  palette += kLineEnd;
+  std::string text = WritePairs(palette, vars.CarColors);
+  session.files.CheckRoom(target, text + std::string(kLineEnd));
+  session.files.Write(vars.CurrentFile, palette);
+  return text;
+}
+
+void ListPaletteAndPairs(Session& session) {
+  FrmMain& main = session.main;
+  ListColors(main.lstColors, session.vars.Colors, session.vars.Colors.Count());
+  ListKeys(main.cmbAutos, session.vars.CarColors, &CarColorEntry::ModelName);
+  main.cmbColor1.Clear();
+  main.cmbColor2.Clear();
+  FillColorPickLists(main);
+}
 
 std::string LabelOf(const Session& session, const FileKind& kind) {
   return Message(session, kind.langName) + " (*." + kind.ending + ")";
 }
 
 }  // namespace
+
+const std::array<FileKind, 3> kFileKinds = {{
+    {kHandlingFile, 1, "cfg", "cfg.backup", 14, true, true, &FrmMain::SSTab1, LoadHandling,
+     RewrittenHandling, CopyCars, ListCars},
+    {kDefinitionFile, 2, "ide", "ide.backup", 122, false, true, &FrmMain::SSTab2, LoadDefinitions,
+     RewrittenDefinitions, CopyIdes, ListIdes},
+    {kColorFile, 3, "dat", "dat.backup", 152, false, false, &FrmMain::SSTab3, LoadColors,
+     RewrittenColors, CopyColors, ListPaletteAndPairs},
+}};
+
+const FileKind& KindOfOpenFile(const Vars& vars) {
+  return kFileKinds.at(static_cast<std::size_t>(vars.CurrentFileType));
+}
 
 const FileKind* KindOfFile(const std::string& name, int filterIndex) {
   for (const FileKind& kind : kFileKinds) {
@@ -29,6 +183,13 @@ std::string FilterOfAllKinds(const Session& session) {
 
 std::string FilterOfKind(const Session& session, const FileKind& kind) {
   return LabelOf(session, kind) + "|*." + kind.ending + "|";
+}
+
+void FillColorPickLists(FrmMain& main) {
+  main.cmbColor1.AddRows(main.lstColors.Rows());
+  main.cmbColor2.AddRows(main.lstColors.Rows());
+  main.cmbColor1.Choose(0);
+  main.cmbColor2.Choose(0);
 }
 
 }  // namespace wheelwright

@@ -1,22 +1,38 @@
 #include "gamefiles/LoadProblems.h"
 
-#include <utility>
+#include "screen/Fields.h"
+
+#include <algorithm>
 
 namespace wheelwright {
+namespace {
 
-void AddLoadProblem(Session& session, std::string vehicle, std::string parameter,
-                    std::string problem) {
-  session.error.lstErrors.AddRow({std::move(vehicle), std::move(parameter), std::move(problem)});
-  session.error.SetVisible(true);
+// Empty for a problem with the whole line and for a field that isn't named in problems.
+std::string CaptionOf(const FrmMain& main, std::string Car::*value) {
+  const auto field = std::find_if(kHandlingFields.begin(), kHandlingFields.end(),
+                                  [&](const FieldRow<Car>& row) { return row.value == value; });
+  const bool isNamed = field != kHandlingFields.end() && field->isNamedInProblems;
+  return isNamed ? (main.*field->label.control).Caption() : "";
 }
 
-void AddTokenCountProblem(Session& session, std::string vehicle, int tokens) {
+ReportList::Row RowOf(const Session& session, const LineProblem& problem) {
   const auto& lang = session.vars.Lang;
-  AddLoadProblem(session, std::move(vehicle), "",
-                 lang[102] + ": " + std::to_string(tokens) + " " + lang[103]);
+  if (problem.field == nullptr) {
+    return {problem.vehicle, "",
+            lang[102] + ": " + std::to_string(problem.tokens) + " " + lang[103]};
+  }
+  return {problem.vehicle, CaptionOf(session.main, problem.field),
+          lang[problem.failed == TokenCheck::MustNotBeNumeric ? 104 : 105]};
 }
 
-void ClearLoadProblems(Session& session) { session.error.lstErrors.Clear(); }
+}  // namespace
+
+void AddLoadProblems(Session& session, const LineProblems& problems) {
+  for (const LineProblem& problem : problems) {
+    session.error.lstErrors.AddRow(RowOf(session, problem));
+  }
+  if (!problems.empty()) session.error.SetVisible(true);
+}
 
 void HideLoadProblems(Session& session) { session.error.SetVisible(false); }
 

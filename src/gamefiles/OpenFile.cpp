@@ -1,11 +1,8 @@
 #include "gamefiles/OpenFile.h"
 
 #include "core/Numbers.h"
-#include "gamefiles/ColorReader.h"
-#include "gamefiles/DefinitionReader.h"
+#include "formats/Lines.h"
 #include "gamefiles/FileKinds.h"
-#include "gamefiles/HandlingReader.h"
-#include "gamefiles/LineEnds.h"
 
 #include <optional>
 
@@ -33,23 +30,16 @@ void ShowTabsOf(FrmMain& main, const FileKind& shown) {
   for (const FileKind& kind : kFileKinds) (main.*kind.tabs).SetVisible(&kind == &shown);
 }
 
+void NormaliseLineEnds(Session& session) {
+  const std::string& file = session.vars.CurrentFile;
+  const auto rewritten = WithoutBareLineFeeds(session.files.Read(file));
+  if (rewritten) session.files.Write(file, *rewritten);
+}
+
 // Gives the number of the line that damaged the load, if one did.
 std::optional<int> LoadFile(Session& session, const FileKind& kind) {
-  switch (kind.type) {
-    case kHandlingFile:
-      session.main.txtAuthor.SetText("");
-      session.main.txtDate.SetText("");
-      NormaliseLineEnds(session);
-      LoadHandlingFile(session);
-      return std::nullopt;
-    case kDefinitionFile:
-      NormaliseLineEnds(session);
-      return LoadDefinitionFile(session);
-    case kColorFile:
-      NormaliseLineEnds(session);
-      return LoadColorFile(session);
-  }
-  return std::nullopt;
+  NormaliseLineEnds(session);
+  return kind.load(session, session.files.Read(session.vars.CurrentFile));
 }
 
 void EnableCommands(FrmMain& main, const FileKind& kind) {
@@ -93,6 +83,10 @@ void OpenChosenFile(Session& session) {
   if (kind == nullptr) return EndWithError(session, "Error: Filetype unknown!");
   session.vars.CurrentFileType = kind->type;
   ShowTabsOf(main, *kind);
+  if (kind->hasAuthor) {
+    main.txtAuthor.SetText("");
+    main.txtDate.SetText("");
+  }
   if (const std::optional<int> damagedLine = LoadFile(session, *kind)) {
     session.desktop.SetPointer(Pointer::Normal);
     ResetWindow(session);

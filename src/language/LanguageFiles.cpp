@@ -1,9 +1,8 @@
 #include "language/LanguageFiles.h"
 
 #include "core/CodePage.h"
-#include "core/Text.h"
 #include "editor/ShowVehicle.h"
-#include "gamefiles/Lines.h"
+#include "formats/LanguageFile.h"
 #include "language/ApplyLanguage.h"
 
 #include <algorithm>
@@ -25,30 +24,6 @@ std::vector<std::string> LanguagesBeside(const Session& session) {
     }
   }
   return languages;
-}
-
-// Writes the line over the entry, whose room is used again: a line may be as long as the file.
-void PutWithLineBreaks(std::string& entry, std::string_view line) {
-  entry.clear();
-  entry.reserve(line.size());
-  for (std::size_t i = 0; i < line.size(); ++i) {
-    const bool lineBreak = line[i] == '\\' && i + 1 < line.size() && FoldCase(line[i + 1]) == 'n';
-    if (lineBreak) {
-      entry += kLineEnd;
-      ++i;
-    } else {
-      entry += line[i];
-    }
-  }
-}
-
-void ReadLanguage(Session& session, std::string_view text) {
-  std::size_t entry = 0;
-  for (const std::string_view line : Lines(text)) {
-    if (entry >= session.vars.Lang.size()) throw Failure(FailureNumber::SubscriptOutOfRange);
-    PutWithLineBreaks(session.vars.Lang[entry], line);
-    ++entry;
-  }
 }
 
 void ChooseRowWithText(PickList& list, const std::string& text) {
@@ -83,7 +58,7 @@ void ChooseLanguage(Session& session) {
 void LoadChosenLanguage(Session& session) {
   const std::string file =
       session.vars.AppPath + ToUnicode(session.main.cmbSprache.Text()) + std::string(kExtension);
-  if (session.files.Exists(file)) ReadLanguage(session, session.files.Read(file));
+  if (session.files.Exists(file)) ReadLanguage(session.files.Read(file), session.vars.Lang);
   ApplyLanguage(session);
 }
 

@@ -1,5 +1,4 @@
-// The language files "*.lng" beside the program. The position of a line is its meaning: line 1 is
-// entry 0 of the language table. Backslash and n, or backslash and N, stand for a line break.
+// The language files "*.lng" beside the program.
 #pragma once
 
 #include "screen/Session.h"

@@ -1,7 +1,5 @@
 #include "screen/Captions.h"
 
-#include "screen/HandlingFields.h"
-
 namespace wheelwright {
 
 std::vector<CaptionRow> CaptionsOf(FrmMain& m) {
@@ -56,6 +54,12 @@ std::vector<CaptionRow> CaptionsOf(FrmExport& e) {
       {e.cmdClose, "Schliessen", 106},
       {e.Spez, "Spez", kNoLang},
   };
+}
+
+void ApplyCaptions(const std::vector<CaptionRow>& rows, std::span<const std::string> lang) {
+  for (const CaptionRow& row : rows) {
+    if (row.lang != kNoLang) row.control.SetCaption(lang[static_cast<std::size_t>(row.lang)]);
+  }
 }
 
 std::vector<TabCaptionRow> TabCaptionsOf(FrmMain& m) {

@@ -5,14 +5,19 @@
 #include "screen/MainWindow.h"
 #include "screen/OtherWindows.h"
 
+#include <span>
+#include <string>
 #include <vector>
 
 namespace wheelwright {
 
+// Of a caption that is in no language.
+inline constexpr int kNoLang = -1;
+
 struct CaptionRow {
   Captioned& control;
   const char* design;  // UTF-8
-  int lang;            // kNoLang where a caption is never translated
+  int lang;
 };
 
 struct TabCaptionRow {
@@ -31,6 +36,9 @@ struct ColumnCaptionRow {
 std::vector<CaptionRow> CaptionsOf(FrmMain& main);
 std::vector<CaptionRow> CaptionsOf(FrmError& error);
 std::vector<CaptionRow> CaptionsOf(FrmExport& exporter);
+// Puts the entries of a language table onto the controls.
+void ApplyCaptions(const std::vector<CaptionRow>& rows, std::span<const std::string> lang);
+
 std::vector<TabCaptionRow> TabCaptionsOf(FrmMain& main);
 std::vector<ColumnCaptionRow> ColumnCaptions();
 

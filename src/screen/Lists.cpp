@@ -8,13 +8,6 @@
 #include <utility>
 
 namespace wheelwright {
-namespace {
-
-bool StandsBefore(const std::string& left, const std::string& right) {
-  return CompareIgnoringCase(left, right) < 0;
-}
-
-}  // namespace
 
 RowList::RowList(Window& window, std::string name, Order order)
     : Control(window, std::move(name)), order_(order) {}
@@ -46,7 +39,9 @@ void RowList::AddRows(std::vector<std::string> texts) {
 // Each new text goes before the first greater row. Rows that a rename has put out of order stay as
 // they are; the merge passes them as they come.
 void RowList::MergeSorted(std::vector<std::string> texts) {
-  std::stable_sort(texts.begin(), texts.end(), StandsBefore);
+  if (!std::is_sorted(texts.begin(), texts.end(), SortsBefore)) {
+    std::stable_sort(texts.begin(), texts.end(), SortsBefore);
+  }
   std::vector<std::string> merged;
   std::vector<bool> isNew;
   merged.reserve(rows_.size() + texts.size());
@@ -54,7 +49,7 @@ void RowList::MergeSorted(std::vector<std::string> texts) {
   auto next = texts.begin();
   int chosen = kNoRow;
   for (std::size_t row = 0; row < rows_.size(); ++row) {
-    for (; next != texts.end() && StandsBefore(*next, rows_[row]); ++next) {
+    for (; next != texts.end() && SortsBefore(*next, rows_[row]); ++next) {
       merged.push_back(std::move(*next));
       isNew.push_back(true);
     }

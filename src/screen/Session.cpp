@@ -8,4 +8,15 @@ std::string Message(const Session& session, int langEntry) {
   return ToUnicode(session.vars.Lang.at(static_cast<std::size_t>(langEntry)));
 }
 
+void Guarded(Session& session, const std::function<void()>& steps,
+             const std::function<void()>& atOnce) {
+  try {
+    steps();
+  } catch (...) {
+    const Failure failure = FailureInFlight();
+    Run(atOnce);
+    if (!failure.IsCancel()) session.desktop.ShowError(failure.Message());
+  }
+}
+
 }  // namespace wheelwright

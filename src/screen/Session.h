@@ -9,6 +9,9 @@
 #include "screen/MainWindow.h"
 #include "screen/OtherWindows.h"
 
+#include <functional>
+#include <string>
+
 namespace wheelwright {
 
 struct Session {
@@ -27,5 +30,12 @@ struct Session {
 
 // An entry of the language table as a message or caption in UTF-8.
 std::string Message(const Session& session, int langEntry);
+
+// A handler meets a failure in one of two ways: a guarded one catches it, any other lets it pass.
+// Runs the steps of a guarded handler. A failure ends them: `atOnce` runs first, then a cancelled
+// file dialog ends without a word and any other failure shows its message in an error box. What the
+// steps did until then stays done.
+void Guarded(Session& session, const std::function<void()>& steps,
+             const std::function<void()>& atOnce = {});
 
 }  // namespace wheelwright

@@ -1,9 +1,7 @@
 // The windows as they are built: design captions, fixed entries, frames and pages, first states.
 #include "core/CodePage.h"
 #include "screen/Captions.h"
-#include "screen/DefinitionFields.h"
-#include "screen/FixedEntries.h"
-#include "screen/HandlingFields.h"
+#include "screen/Fields.h"
 #include "screen/MainWindow.h"
 #include "screen/OtherWindows.h"
 
@@ -22,23 +20,25 @@ void SetDesignCaptions(const std::vector<CaptionRow>& rows) {
   for (const CaptionRow& row : rows) row.control.SetCaption(FromUnicode(row.design));
 }
 
-void BuildHandlingTabs(FrmMain& m) {
-  for (const HandlingField& field : kHandlingFields) {
-    if (field.tabRow == kNoTabRow) continue;
-    (m.*field.label).SetCaption(FromUnicode(field.caption));
-    (m.*field.label).PutInto(m.SSTab1, field.tab);
-    if (field.text != nullptr) (m.*field.text).PutInto(m.SSTab1, field.tab);
-    if (field.pick != nullptr) (m.*field.pick).PutInto(m.SSTab1, field.tab);
-    if (field.tick != nullptr) (m.*field.tick).PutInto(m.SSTab1, field.tab);
-    if (field.info == nullptr) continue;
-    (m.*field.info).SetCaption(FromUnicode(field.infoCaption));
-    (m.*field.info).PutInto(m.SSTab1, field.tab);
-  }
-  for (const CodeList& list : kCodeLists) {
-    for (const char* entry : list.entries) {
-      if (entry != nullptr) (m.*list.pick).AddRow(FromUnicode(entry));
+void AddEntries(PickList& list, std::span<const char* const> words) {
+  for (const char* word : words) list.AddRow(FromUnicode(word));
+}
+
+template <class Fields>
+void BuildFields(FrmMain& m, const Fields& fields, TabGroup& group) {
+  for (const auto& field : fields) {
+    for (const FieldCaption& caption : {field.label, field.hint}) {
+      if (caption.control == nullptr) continue;
+      (m.*caption.control).SetCaption(FromUnicode(caption.design));
+      (m.*caption.control).PutInto(group, field.tab);
     }
+    std::visit([&](auto input) { (m.*input).PutInto(group, field.tab); }, field.input);
+    if (auto* const list = InputOf<PickList>(m, field)) AddEntries(*list, field.entries.words);
   }
+}
+
+void BuildHandlingTabs(FrmMain& m) {
+  BuildFields(m, kHandlingFields, m.SSTab1);
   for (std::size_t i = 0; i < kFlagCount; ++i) {
     m.chkFlag[i].SetCaption(kFlagCaptions[i]);
     m.chkFlag[i].PutInto(m.SSTab1, kFlagsTab);
@@ -59,20 +59,10 @@ void BuildHandlingTabs(FrmMain& m) {
 }
 
 void BuildDefinitionTabs(FrmMain& m) {
-  for (const DefinitionField& field : kDefinitionFields) {
-    (m.*field.label).SetCaption(FromUnicode(field.caption));
-    (m.*field.label).PutInto(m.SSTab2, field.tab);
-    if (field.text != nullptr) (m.*field.text).PutInto(m.SSTab2, field.tab);
-    if (field.pick != nullptr) (m.*field.pick).PutInto(m.SSTab2, field.tab);
-    (m.*field.info).SetCaption(FromUnicode(field.infoCaption));
-    (m.*field.info).PutInto(m.SSTab2, field.tab);
-  }
+  BuildFields(m, kDefinitionFields, m.SSTab2);
   m.cmbExtra1.PutInto(m.SSTab2, kPropertiesTab);
   m.txtExtra1.SetVisible(false);  // it shares its spot with cmbExtra1
-  m.cmbTyp.AddRows(FixedEntries(kTypes));
-  m.cmbAnim.AddRows(FixedEntries(kAnimations));
-  m.cmbKlasse.AddRows(FixedEntries(kClasses));
-  m.cmbExtra1.AddRows(FixedEntries(kWheels));
+  AddEntries(m.cmbExtra1, kWheels);
   m.picFrame2.PutInto(m.SSTab2, kDefinitionPictureTab);
   m.picCar2.PutInto(m.picFrame2);
 }

@@ -1,5 +1,5 @@
 // The colour pairs of a vehicle on screen.
-#include "editor/ColorPairs.h"
+#include "editor/ShowVehicle.h"
 #include "support/HeldTables.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "screen/DefinitionFields.h"
+#include "screen/Fields.h"
 #include "support/HeldTables.h"
 #include "support/TableTexts.h"
 #include "support/TestSession.h"
@@ -27,14 +27,11 @@ IdeEntry Ide(const std::string& handlingId, const std::string& typ, const std::s
   return entry;
 }
 
-// What the inputs of the two tabs show, in the order of a line's fields up to CompRules.
-Texts Shown(const FrmMain& main) {
-  Texts shown;
-  for (const DefinitionField& field : kDefinitionFields) {
-    if (field.displayOrder == kByTypeRules) continue;
-    shown.push_back(field.text != nullptr ? (main.*field.text).Text() : (main.*field.pick).Text());
-  }
-  return shown;
+// What the inputs of the two tabs show, but for the extras.
+Texts Shown(const FrmMain& m) {
+  return {m.txtID.Text(),         m.txtModelName.Text(), m.txtTXDName.Text(),  m.cmbTyp.Text(),
+          m.txtHandlingID.Text(), m.txtGameName.Text(),  m.cmbAnim.Text(),     m.cmbKlasse.Text(),
+          m.txtFrequenz.Text(),   m.txtLevel.Text(),     m.txtCompRules.Text()};
 }
 
 TEST(DefinitionRecord, ShowsEveryFieldOfTheChosenDefinition) {
@@ -100,11 +97,11 @@ TEST(DefinitionRecord, AnEntryWithoutADefinitionShowsTheFirstOneAndKeepsItsOwnTe
 TEST(DefinitionRecord, FillsTheControlsInTheirOrder) {
   Holding test({Ide("A", "car", "null", "normal"), Ide("B", "plane", "coach", "moped")});
   Texts order;
-  for (const DefinitionField& field : kDefinitionFields) {
-    if (field.displayOrder == kByTypeRules) continue;
-    Control& control = field.text != nullptr ? static_cast<Control&>(test.main.*field.text)
-                                             : test.main.*field.pick;
-    control.notice = [&order, &control](Aspect) { order.push_back(control.Name()); };
+  FrmMain& m = test.main;
+  for (Control* control : std::initializer_list<Control*>{
+           &m.txtID, &m.txtModelName, &m.txtTXDName, &m.cmbTyp, &m.txtHandlingID, &m.txtGameName,
+           &m.cmbAnim, &m.cmbKlasse, &m.txtFrequenz, &m.txtLevel, &m.txtCompRules}) {
+    control->notice = [&order, control](Aspect) { order.push_back(control->Name()); };
   }
   PickByHand(test.main.cmbAutos, "B");
   EXPECT_EQ(order,

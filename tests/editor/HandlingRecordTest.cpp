@@ -1,5 +1,5 @@
 // A vehicle of the handling file on screen.
-#include "editor/HandlingRecord.h"
+#include "editor/ShowVehicle.h"
 #include "support/HeldTables.h"
 #include "support/Records.h"
 

@@ -1,5 +1,5 @@
 // The captions that a "%" line of the handling file changes.
-#include "editor/HandlingRecord.h"
+#include "editor/ShowVehicle.h"
 #include "support/HeldTables.h"
 
 #include <gtest/gtest.h>

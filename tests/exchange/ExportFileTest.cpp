@@ -1,4 +1,4 @@
-#include "exchange/ExportFile.h"
+#include "exchange/Export.h"
 #include "support/Exchange.h"
 #include "support/Records.h"
 

@@ -1,4 +1,4 @@
-#include "exchange/ExportWindow.h"
+#include "exchange/Export.h"
 #include "support/TestSession.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 #include "core/Failure.h"
-#include "exchange/ExportFile.h"
+#include "exchange/Export.h"
 #include "support/Exchange.h"
 #include "support/Records.h"
 
@@ -40,7 +40,7 @@ std::string BlockOf(const std::string& number, const std::string& name) {
        record + "suspension_lower_limit = \"-0.16\"", record + "IsSportCar = False", "", ""});
 }
 
-TEST(WriteTuningList, WithNothingOnTheRightDoesNothing) {
+TEST(WriteTuningFile, WithNothingOnTheRightDoesNothing) {
   TestSession test;
   test.OpenHandling(CrLf({VehicleLineOf("BUS")}));
   test.main.cmdExportCar.ClickByHand();
@@ -48,7 +48,7 @@ TEST(WriteTuningList, WithNothingOnTheRightDoesNothing) {
   EXPECT_EQ(test.desktop.shown, Rows{});
 }
 
-TEST(WriteTuningList, WritesABlockForEachRow) {
+TEST(WriteTuningFile, WritesABlockForEachRow) {
   TestSession test;
   test.OpenHandling(CrLf({VehicleLineOf("TAXI"), VehicleLineOf("BUS")}));
   test.vars.Cars.At(0).SuspensionForceLevel = "2";
@@ -75,7 +75,7 @@ TEST(WriteTuningList, WritesABlockForEachRow) {
             "\r\n");
 }
 
-TEST(WriteTuningList, AsksForTheFileLikeAnExport) {
+TEST(WriteTuningFile, AsksForTheFileLikeAnExport) {
   TestSession test;
   test.OpenHandling(CrLf({VehicleLineOf("BUS")}));
   ChooseAllForExport(test);
@@ -87,7 +87,7 @@ TEST(WriteTuningList, AsksForTheFileLikeAnExport) {
   EXPECT_EQ(dialog.flags, FileDialog::kOverwritePrompt);
 }
 
-TEST(WriteTuningList, SaysNothingAndCanBeRepeatedAtOnce) {
+TEST(WriteTuningFile, SaysNothingAndCanBeRepeatedAtOnce) {
   TestSession test;
   test.OpenHandling(CrLf({VehicleLineOf("CAB"), VehicleLineOf("BUS")}));
   test.main.cmdExportCar.ClickByHand();
@@ -102,7 +102,7 @@ TEST(WriteTuningList, SaysNothingAndCanBeRepeatedAtOnce) {
   EXPECT_EQ(Written(test), BlockOf("0", "BUS"));
 }
 
-TEST(WriteTuningList, LeavesTableAndFlagAlone) {
+TEST(WriteTuningFile, LeavesTableAndFlagAlone) {
   TestSession test;
   test.OpenHandling(CrLf({VehicleLineOf("BUS")}));
   const std::vector<Car> loaded = RecordsOf(test.vars.Cars);
@@ -112,7 +112,7 @@ TEST(WriteTuningList, LeavesTableAndFlagAlone) {
   EXPECT_TRUE(test.vars.IsSaved);
 }
 
-TEST(WriteTuningList, AVehicleThatHasGoneLeavesAGapInTheNumbers) {
+TEST(WriteTuningFile, AVehicleThatHasGoneLeavesAGapInTheNumbers) {
   TestSession test;
   test.OpenHandling(CrLf({VehicleLineOf("BUS"), VehicleLineOf("CAB"), VehicleLineOf("VAN")}));
   ChooseAllForExport(test);
@@ -121,7 +121,7 @@ TEST(WriteTuningList, AVehicleThatHasGoneLeavesAGapInTheNumbers) {
   EXPECT_EQ(Written(test), BlockOf("0", "BUS") + BlockOf("2", "VAN"));
 }
 
-TEST(WriteTuningList, TwoRecordsOfANameShareTheNumber) {
+TEST(WriteTuningFile, TwoRecordsOfANameShareTheNumber) {
   TestSession test;
   test.OpenHandling(CrLf({VehicleLineOf("BUS"), VehicleLineOf("CAB")}));
   test.vars.Cars.At(0).CarName = "CAB";
@@ -129,7 +129,7 @@ TEST(WriteTuningList, TwoRecordsOfANameShareTheNumber) {
   EXPECT_EQ(Written(test), BlockOf("1", "CAB") + BlockOf("1", "CAB"));
 }
 
-TEST(WriteTuningList, NamesAreComparedWithCase) {
+TEST(WriteTuningFile, NamesAreComparedWithCase) {
   TestSession test;
   test.OpenHandling(CrLf({VehicleLineOf("BUS"), VehicleLineOf("Bus")}));
   test.main.cmdExportCar.ClickByHand();
@@ -138,7 +138,7 @@ TEST(WriteTuningList, NamesAreComparedWithCase) {
   EXPECT_EQ(Written(test), BlockOf("0", "Bus"));
 }
 
-TEST(WriteTuningList, ACancelIsAFailureThatPasses) {
+TEST(WriteTuningFile, ACancelIsAFailureThatPasses) {
   TestSession test;
   test.OpenHandling(CrLf({VehicleLineOf("BUS")}));
   ChooseAllForExport(test);
@@ -147,7 +147,7 @@ TEST(WriteTuningList, ACancelIsAFailureThatPasses) {
   EXPECT_EQ(test.desktop.shown, Rows{"save"});
 }
 
-TEST(WriteTuningList, AFailingWritePasses) {
+TEST(WriteTuningFile, AFailingWritePasses) {
   TestSession test;
   test.OpenHandling(CrLf({VehicleLineOf("BUS")}));
   ChooseAllForExport(test);
@@ -157,7 +157,7 @@ TEST(WriteTuningList, AFailingWritePasses) {
   EXPECT_EQ(test.desktop.shown, Rows{"save"});
 }
 
-TEST(WriteTuningList, WithoutATableOfVehiclesFailsOverAnEmptyFile) {
+TEST(WriteTuningFile, WithoutATableOfVehiclesFailsOverAnEmptyFile) {
   TestSession test;
   test.OpenDefinition(
       CrLf({"cars", "130, cab, cab, car, TAXI, TAXI, null, taxi, 10, 7, 0, 251, 0.7", "end"}));

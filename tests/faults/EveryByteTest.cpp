@@ -1,6 +1,5 @@
 // Every byte that a format leaves to a field goes through that field unchanged, the zero byte
 // included: from the file to the table and the screen, and back to the file.
-#include "screen/HandlingFields.h"
 #include "support/Exchange.h"
 #include "support/TableTexts.h"
 #include "support/TestSession.h"

@@ -37,24 +37,39 @@ TEST(LoadProblemsTest, TheWindowStartsEmptyAndInvisible) {
 
 TEST(LoadProblemsTest, RowsStayInOrderOfArrivalAndShowTheWindow) {
   TestSession test;
-  AddLoadProblem(test.session, "TAXI", "Mass", "bad");
+  test.main.lblGewicht.SetCaption("Mass & more");
+  AddLoadProblems(test.session, {BadToken("TAXI", 1)});
   EXPECT_TRUE(test.error.IsVisible());
-  AddTokenCountProblem(test.session, "BUS", 31);
-  AddLoadProblem(test.session, "", "", "");
-  EXPECT_EQ(test.error.lstErrors.Rows(),
-            (Rows{{"TAXI", "Mass", "bad"}, {"BUS", "", "E102: 31 E103"}, {"", "", ""}}));
+  AddLoadProblems(test.session, {WrongCount("BUS", 31), BadToken("4711", 0)});
+  EXPECT_EQ(test.error.lstErrors.Rows(), (Rows{{"TAXI", "Mass & more", "E105"},
+                                               {"BUS", "", "E102: 31 E103"},
+                                               {"4711", "E015", "E104"}}));
   EXPECT_TRUE(test.error.IsVisible());
 }
 
-TEST(LoadProblemsTest, ClearingLeavesTheWindowAsItIs) {
+TEST(LoadProblemsTest, NoProblemShowsNothing) {
   TestSession test;
-  AddLoadProblem(test.session, "TAXI", "Mass", "bad");
-  ClearLoadProblems(test.session);
+  AddLoadProblems(test.session, {});
+  EXPECT_FALSE(test.error.IsVisible());
+}
+
+TEST(LoadProblemsTest, ABadTokenIsNamedByTheCaptionOfItsLabel) {
+  for (int index = 0; index < kTokensOfAVehicle; ++index) {
+    const TokenRule& rule = kTokenRules[static_cast<std::size_t>(index)];
+    if (rule.check == TokenCheck::None) continue;
+    TestSession test;
+    AddLoadProblems(test.session, {BadToken("BUS", index)});
+    const std::string caption = rule.label == nullptr ? "" : (test.main.*rule.label).Caption();
+    const char* const text = rule.check == TokenCheck::MustNotBeNumeric ? "E104" : "E105";
+    EXPECT_EQ(test.error.lstErrors.Rows(), (Rows{{"BUS", caption, text}})) << "token " << index;
+  }
+}
+
+TEST(LoadProblemsTest, RowsOfTheFirstPassAreGoneAndTheWindowStays) {
+  TestSession test;
+  test.OpenHandling(CrLf({"  4711 1500.0 2.6 9.1", VehicleLineOf("BUS")}));
   EXPECT_EQ(test.error.lstErrors.Rows(), Rows{});
   EXPECT_TRUE(test.error.IsVisible());
-  HideLoadProblems(test.session);
-  ClearLoadProblems(test.session);
-  EXPECT_FALSE(test.error.IsVisible());
 }
 
 TEST(LoadProblemsTest, TheCloseButtonHidesTheWindowAndKeepsTheRows) {
@@ -71,7 +86,7 @@ TEST(LoadProblemsTest, TheCloseBoxHidesTheWindowAndTheNextProblemShowsItAgain) {
   test.error.closeRequested();
   EXPECT_FALSE(test.error.IsVisible());
   EXPECT_EQ(test.error.lstErrors.Rows(), kShortBusRows);
-  AddTokenCountProblem(test.session, "TAXI", 5);
+  AddLoadProblems(test.session, {WrongCount("TAXI", 5)});
   EXPECT_TRUE(test.error.IsVisible());
   EXPECT_EQ(test.error.lstErrors.Rows(),
             (Rows{{"BUS", "", "E102: 3 E103"}, {"TAXI", "", "E102: 5 E103"}}));

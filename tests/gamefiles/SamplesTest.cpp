@@ -41,7 +41,7 @@ Texts SortedVehicleLines(const std::string& sample) {
   Texts lines;
   for (const std::string& line : PlainLines(sample)) {
     if (IsForeign(line)) continue;
-    const PlainHandling read = ReadPlainly(line, FrmMain());
+    const PlainHandling read = ReadPlainly(line);
     lines.push_back(PlainLines(WritePlainly("x", read.names, read.records, "", ""))[2]);
   }
   std::sort(lines.begin(), lines.end());

@@ -37,6 +37,14 @@ class Includes(Tree):
         self.assertEqual(["src/core/A.h:3: screen/Lists.h reaches down from core into screen"],
                          self.faults("src/core/A.h", '"screen/Lists.h"'))
 
+    def test_formats_and_screen_do_not_know_each_other(self):
+        self.assertEqual(
+            ["src/formats/A.cpp:3: screen/B.h reaches down from formats into screen"],
+            self.faults("src/formats/A.cpp", '"screen/B.h"'))
+        self.assertIn(
+            "src/screen/A.cpp:3: formats/B.h reaches from screen into formats, which don't know each other",
+            self.faults("src/screen/A.cpp", '"formats/B.h"'))
+
     def test_the_plain_half_of_the_forms_does_not_reach_the_other(self):
         self.assertEqual(
             ["src/forms/A.cpp:3: forms/qt/B.h reaches down from forms into forms/qt"],

@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """Holds the includes to the order of the layers.
 
-A source of src includes only from folders that stand higher in LAYERS than its own, or from its own.
+A source of src includes only from folders that stand higher in LAYERS than its own, or from its own;
+never from the one that STRANGERS names for its own.
 The toolkit's headers stay in the folders named in TOOLKIT_FOLDERS.
 
 usage: includes.py [SOURCE_TREE]
@@ -11,8 +12,9 @@ import pathlib
 import re
 import sys
 
-LAYERS = ["core", "core/posix", "core/windows", "screen", "gamefiles", "editor", "catalogue",
-          "exchange", "language", "forms", "forms/qt"]
+LAYERS = ["core", "core/posix", "core/windows", "formats", "screen", "gamefiles", "editor",
+          "catalogue", "exchange", "language", "forms", "forms/qt"]
+STRANGERS = {"screen": "formats"}
 TOOLKIT_FOLDERS = ["src/forms/qt", "src/main.cpp", "tools", "tests/forms/qt", "tests/program"]
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
@@ -41,6 +43,8 @@ def fault_of_own(source, header):
     if reached is None:
         return "names no layer"
     own = layer_of(source)
+    if STRANGERS.get(own) == reached:
+        return f"reaches from {own} into {reached}, which don't know each other"
     if own is not None and LAYERS.index(reached) > LAYERS.index(own):
         return f"reaches down from {own} into {reached}"
     return None

@@ -83,8 +83,8 @@ def words_of_table(file, *names):
     return words
 
 
-FLAGS = words_of_table("HandlingFields.cpp", "kFlagCaptions")
-CHOICES = words_of_table("FixedEntries.h", "kTypes", "kAnimations", "kClasses", "kWheels")
+FLAGS = words_of_table("Fields.cpp", "kFlagCaptions")
+CHOICES = words_of_table("Fields.h", "kTypes", "kAnimations", "kClasses", "kWheels")
 
 
 class Manual(unittest.TestCase):

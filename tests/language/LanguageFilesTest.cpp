@@ -5,8 +5,7 @@
 #include "languages/Faults.h"
 #include "languages/Report.h"
 #include "screen/Captions.h"
-#include "screen/DefinitionFields.h"
-#include "screen/HandlingFields.h"
+#include "screen/Fields.h"
 
 #include <gtest/gtest.h>
 #include <map>
@@ -85,26 +84,21 @@ Designed DesignOfCaptions() {
   return design;
 }
 
-void AddDesignOfFields(Designed& design) {
-  for (const HandlingField& field : kHandlingFields) {
-    design.emplace(field.captionLang, field.caption);
-    design.emplace(field.infoLang, field.infoCaption);
-  }
-  for (const DefinitionField& field : kDefinitionFields) {
-    design.emplace(field.captionLang, field.caption);
-    design.emplace(field.infoLang, field.infoCaption);
-  }
-  for (const CodeList& list : kCodeLists) {
-    int entry = list.firstLang;
-    for (const char* text : list.entries) {
-      if (text != nullptr) design.emplace(entry++, text);
-    }
+template <class Fields>
+void AddDesignOfFields(const Fields& fields, Designed& design) {
+  for (const auto& field : fields) {
+    design.emplace(field.label.lang, field.label.design);
+    design.emplace(field.hint.lang, field.hint.design);
+    int entry = field.entries.firstLang;
+    if (entry == kNoLang) continue;
+    for (const char* word : field.entries.words) design.emplace(entry++, word);
   }
 }
 
 TEST(LanguageFiles, GermanHasTheCaptionsOfTheDesign) {
   Designed design = DesignOfCaptions();
-  AddDesignOfFields(design);
+  AddDesignOfFields(kHandlingFields, design);
+  AddDesignOfFields(kDefinitionFields, design);
   design.erase(kNoLang);
   // The design has placeholders for these two hints.
   design.erase(kFirstWheelInfo);

@@ -1,24 +1,20 @@
 // What holds for every colour file, however odd.
-#include "gamefiles/ColorReader.h"
-#include "gamefiles/ColorWriter.h"
+#include "core/Numbers.h"
+#include "formats/ColorFile.h"
 #include "support/ColorReference.h"
 #include "support/DefinitionReference.h"
 #include "support/Generators.h"
 #include "support/HandlingReference.h"
 #include "support/Records.h"
 #include "support/TableTexts.h"
-#include "support/TestSession.h"
 #include "support/Thrown.h"
 
-#include <algorithm>
 #include <gtest/gtest.h>
 #include <rapidcheck.h>
 #include <rapidcheck/gtest.h>
 
 namespace wheelwright::testing {
 namespace {
-
-constexpr const char* kPath = TestSession::kColorPath;
 
 std::string WithoutLineEnds(std::string text) {
   std::erase_if(text, [](char byte) { return byte == '\r' || byte == '\n'; });
@@ -165,101 +161,86 @@ GoodFile AnyGoodFile() {
   return file;
 }
 
-bool Opened(TestSession& test, const std::string& text) {
-  test.OpenColors(text);
-  return test.LastShown() == "normal";
-}
+// A text that is read and then saved, each time over what the last save made of it.
+struct Opened {
+  explicit Opened(const std::string& text) : onDisk(text) {
+    ReadPalette(text, palette);
+    ReadPairs(text, pairs);
+  }
 
-std::string Saved(TestSession& test) {
-  test.main.cmdSave.ClickByHand();
-  return test.Disk(kPath);
-}
+  std::string Saved() {
+    onDisk = WritePairs(WritePalette(onDisk, palette.colors) + "\r\n", pairs.records) + "\r\n";
+    return onDisk;
+  }
 
-Texts Sorted(Texts texts) {
-  std::sort(texts.begin(), texts.end());
-  return texts;
-}
+  std::string onDisk;
+  PaletteSection palette;
+  PairsSection pairs;
+};
 
 RC_GTEST_PROP(ColorLaws, TheReaderReadsWhatAPlainOneReads, ()) {
   const std::string text = Told(AnyFile());
-  TestSession test;
-  test.files.contents[kPath] = text;
-  test.vars.CurrentFile = kPath;
-  test.vars.CurrentFileType = kColorFile;
-  std::optional<int> damagedLine;
-  const int failure = NumberThrownBy([&] { damagedLine = LoadColorFile(test.session); });
+  PaletteSection palette;
+  PairsSection pairs;
   const PlainColors plain = ReadColorsPlainly(text);
-  const bool nothingToChoose = plain.labels.empty() || plain.keys.empty();
-  const bool ended = plain.failure == 0 && plain.damagedLine == 0;
-  RC_ASSERT(failure == (ended && nothingToChoose ? 380 : plain.failure));
-  RC_ASSERT(damagedLine.value_or(0) == plain.damagedLine);
-  RC_ASSERT(RecordsOf(test.vars.Kopie_Colors) == plain.colors);
-  RC_ASSERT(test.main.lstColors.Rows() == plain.labels);
-  RC_ASSERT(test.vars.Colors.IsAllocated() == plain.firstPassEnded);
-  if (!plain.firstPassEnded) return;
-  RC_ASSERT(RecordsOf(test.vars.Colors) == plain.colors);
-  RC_ASSERT(RecordsOf(test.vars.Kopie_CarColors) == plain.carColors);
-  if (!ended) return;
-  RC_ASSERT(Sorted(test.main.cmbAutos.Rows()) == Sorted(plain.keys));
-  RC_ASSERT(test.main.cmbColor1.Rows() == plain.labels);
-  RC_ASSERT(test.main.cmbColor2.Rows() == plain.labels);
+  const int paletteFailure = NumberThrownBy([&] { ReadPalette(text, palette); });
+  RC_ASSERT(RecordsOf(palette.colors) == plain.colors);
+  RC_ASSERT(static_cast<std::size_t>(palette.count) == plain.labels.size());
+  RC_ASSERT(plain.firstPassEnded == (paletteFailure == 0));
+  if (paletteFailure != 0) {
+    RC_ASSERT(paletteFailure == plain.failure);
+    return;
+  }
+  RC_ASSERT(NumberThrownBy([&] { ReadPairs(text, pairs); }) == plain.failure);
+  RC_ASSERT(RecordsOf(pairs.records) == plain.carColors);
+  RC_ASSERT(pairs.damagedLine.value_or(0) == plain.damagedLine);
+  RC_ASSERT(pairs.names == plain.keys);
 }
 
 RC_GTEST_PROP(ColorLaws, TheWriterWritesWhatAPlainOneWrites, ()) {
   const std::string text = Told(AnyFile());
   PlainColors tables = ReadColorsPlainly(AnyFile());
   if (*rc::gen::arbitrary<bool>()) tables.colors.back().Index = -1;
-  TestSession test;
-  test.files.contents[kPath] = text;
-  test.vars.CurrentFile = kPath;
-  test.vars.Colors = TableOf(tables.colors);
-  test.vars.CarColors = TableOf(tables.carColors);
-  const std::string written = RewriteColorFile(test.session, kPath);
-  const std::string palette = WritePalettePlainly(text, tables.colors);
-  RC_ASSERT(test.Disk(kPath) == palette);
-  RC_ASSERT(written == WritePairsPlainly(palette, tables.carColors));
+  const std::string palette = WritePalette(text, TableOf(tables.colors)) + "\r\n";
+  RC_ASSERT(palette == WritePalettePlainly(text, tables.colors));
+  RC_ASSERT(WritePairs(palette, TableOf(tables.carColors)) ==
+            WritePairsPlainly(palette, tables.carColors));
 }
 
 RC_GTEST_PROP(ColorLaws, AnUneditedSaveAddsTheBannerAndTwoEmptyLinesToAWellLaidOutFile, ()) {
   const std::string text = Told(AnyGoodFile().Text());
-  TestSession test;
-  RC_ASSERT(Opened(test, text));
-  RC_ASSERT(Saved(test) == kBanner + text + "\r\n\r\n");
-  RC_ASSERT(Saved(test) == kBanner + text + "\r\n\r\n\r\n\r\n");
+  Opened opened(text);
+  RC_ASSERT(opened.Saved() == kBanner + text + "\r\n\r\n");
+  RC_ASSERT(opened.Saved() == kBanner + text + "\r\n\r\n\r\n\r\n");
 }
 
 RC_GTEST_PROP(ColorLaws, ASaveChangesNothingAroundTheSections, ()) {
   GoodFile file = AnyGoodFile();
-  TestSession test;
-  RC_ASSERT(Opened(test, Told(file.Text())));
-  test.main.cmdNewColor.ClickByHand();
-  test.main.cmbAutos.ChooseByHand(test.main.cmbAutos.Count() - 1);
-  test.main.cmdAddColor.ClickByHand();
-  file.colors.push_back("0,128,255\t\t\t# " + std::to_string(file.colors.size()) + " Color" +
-                        std::to_string(file.colors.size()));
-  file.vehicles[static_cast<std::size_t>(test.vars.CurrentCarColor)] += ", 0, 0";
-  RC_ASSERT(Saved(test) == kBanner + file.Text() + "\r\n\r\n");
+  Opened opened(Told(file.Text()));
+  Table<ColorEntry>& colors = opened.palette.colors;
+  const std::int16_t number = Checked16(colors.Count());
+  colors.ExtendTo(number);
+  colors.At(number) = {number, 0, 128, 255, "new"};
+  file.colors.push_back("0,128,255\t\t\t# " + std::to_string(number) + " new");
+  CarColorEntry& last = opened.pairs.records.At(opened.pairs.records.UpperBound());
+  last.Color1.push_back(0);
+  last.Color2.push_back(-7);
+  file.vehicles.back() += ", 0, -7";
+  RC_ASSERT(opened.Saved() == kBanner + file.Text() + "\r\n\r\n");
 }
 
 RC_GTEST_PROP(ColorLaws, TheSavedFileGivesTheSameTablesWithTheColorsNumberedAnew, ()) {
-  TestSession test;
-  RC_ASSERT(Opened(test, Told(AnyGoodFile().Text())));
-  test.main.lstColors.ChooseByHand(*rc::gen::inRange(0, test.main.lstColors.Count()));
-  test.desktop.answers.push_back(true);
-  RC_PRE(test.main.lstColors.Count() > 1);
-  test.main.cmdDeleteColor.ClickByHand();
-  std::vector<ColorEntry> colors = RecordsOf(test.vars.Colors);
-  for (std::size_t i = 0; i < colors.size(); ++i) colors[i].Index = static_cast<std::int16_t>(i);
-  const Texts vehicles = TextsOf(test.vars.CarColors);
-  RC_ASSERT(Opened(test, Saved(test)));
-  RC_ASSERT(RecordsOf(test.vars.Colors) == colors);
-  RC_ASSERT(TextsOf(test.vars.Kopie_CarColors) == vehicles);
+  Opened opened(Told(AnyGoodFile().Text()));
+  const int changed = *rc::gen::inRange(0, opened.palette.colors.Count());
+  opened.palette.colors.At(changed).Index = 99;
+  const Opened again(opened.Saved());
+  opened.palette.colors.At(changed).Index = static_cast<std::int16_t>(changed);
+  RC_ASSERT(RecordsOf(again.palette.colors) == RecordsOf(opened.palette.colors));
+  RC_ASSERT(RecordsOf(again.pairs.records) == RecordsOf(opened.pairs.records));
 }
 
 RC_GTEST_PROP(ColorLaws, ASaveKeepsEveryCommentOutsideThePalette, ()) {
   const GoodFile file = AnyGoodFile();
-  TestSession test;
-  RC_ASSERT(Opened(test, Told(file.Text())));
   const auto commentsOf = [](const std::string& text) {
     Texts comments;
     for (const std::string& line : PlainLines(text)) {
@@ -267,7 +248,7 @@ RC_GTEST_PROP(ColorLaws, ASaveKeepsEveryCommentOutsideThePalette, ()) {
     }
     return comments;
   };
-  RC_ASSERT(commentsOf(Saved(test)) == commentsOf(kBanner + file.Text()));
+  RC_ASSERT(commentsOf(Opened(Told(file.Text())).Saved()) == commentsOf(kBanner + file.Text()));
 }
 
 }  // namespace

@@ -1,12 +1,10 @@
 // What holds for every definition file, however odd.
-#include "gamefiles/DefinitionReader.h"
-#include "gamefiles/DefinitionWriter.h"
+#include "formats/DefinitionFile.h"
 #include "support/DefinitionReference.h"
 #include "support/Generators.h"
 #include "support/HandlingReference.h"
 #include "support/Records.h"
 #include "support/TableTexts.h"
-#include "support/TestSession.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -15,8 +13,6 @@
 
 namespace wheelwright::testing {
 namespace {
-
-constexpr const char* kPath = TestSession::kDefinitionPath;
 
 std::string WithoutLineEnds(std::string text) {
   std::erase_if(text, [](char byte) { return byte == '\r' || byte == '\n'; });
@@ -129,52 +125,39 @@ GoodFile AnyGoodFile() {
   return file;
 }
 
-bool Opened(TestSession& test, const std::string& text) {
-  test.OpenDefinition(text);
-  return test.LastShown() == "normal";
-}
+// A text that is read and then saved, each time over what the last save made of it.
+struct Opened {
+  explicit Opened(const std::string& text) : onDisk(text) { ReadDefinitions(text, file); }
 
-std::string Saved(TestSession& test) {
-  test.main.cmdSave.ClickByHand();
-  return test.Disk(kPath);
-}
+  std::string Saved() {
+    onDisk = WriteDefinitions(onDisk, file.records) + "\r\n";
+    return onDisk;
+  }
+
+  std::string onDisk;
+  DefinitionFile file;
+};
 
 RC_GTEST_PROP(DefinitionLaws, TheReaderReadsWhatAPlainOneReads, ()) {
   const std::string text = Told(AnyFile());
-  TestSession test;
-  test.files.contents[kPath] = text;
-  test.vars.CurrentFile = kPath;
-  const std::optional<int> damagedLine = LoadDefinitionFile(test.session);
+  const DefinitionFile file = Opened(text).file;
   const PlainDefinitions plain = ReadDefinitionsPlainly(text);
-  RC_ASSERT(damagedLine.value_or(0) == plain.damagedLine);
-  RC_ASSERT(RecordsOf(test.vars.Kopie_Ides) == plain.records);
-  RC_ASSERT(test.vars.Ides.IsAllocated() == !damagedLine);
-  if (damagedLine) return;
-  RC_ASSERT(RecordsOf(test.vars.Ides) == plain.records);
-  Texts keys = plain.keys;
-  Texts rows = test.main.cmbAutos.Rows();
-  std::sort(keys.begin(), keys.end());
-  std::sort(rows.begin(), rows.end());
-  RC_ASSERT(rows == keys);
+  RC_ASSERT(file.damagedLine.value_or(0) == plain.damagedLine);
+  RC_ASSERT(RecordsOf(file.records) == plain.records);
+  RC_ASSERT(file.names == plain.keys);
 }
 
 RC_GTEST_PROP(DefinitionLaws, TheWriterWritesWhatAPlainOneWrites, ()) {
   const std::string text = Told(AnyFile());
   const std::vector<IdeEntry> ides = AnyTable();
-  TestSession test;
-  test.files.contents[kPath] = text;
-  test.vars.CurrentFile = kPath;
-  test.vars.Ides = TableOf(ides);
-  RC_ASSERT(RewriteDefinitionText(test.session) == WriteDefinitionsPlainly(text, ides));
-  RC_ASSERT(RecordsOf(test.vars.Kopie_Ides) == ides);
+  RC_ASSERT(WriteDefinitions(text, TableOf(ides)) == WriteDefinitionsPlainly(text, ides));
 }
 
 RC_GTEST_PROP(DefinitionLaws, ASaveChangesNothingAroundTheSection, ()) {
   const GoodFile file = AnyGoodFile();
-  TestSession test;
-  RC_ASSERT(Opened(test, Told(file.Text())));
-  test.main.txtGameName.EditByHand("edited");
-  const std::string saved = Saved(test);
+  Opened opened(Told(file.Text()));
+  opened.file.records.At(0).GameName = "edited";
+  const std::string saved = opened.Saved();
   const std::string head = kBanner + file.before + "cars\r\n";
   const std::string tail = "end\r\n" + file.behind + "\r\n";
   RC_ASSERT(saved.substr(0, head.size()) == head);
@@ -194,27 +177,23 @@ IdeEntry AsWritten(IdeEntry entry) {
 }
 
 RC_GTEST_PROP(DefinitionLaws, TheSavedFileGivesTheSameTableButForTheExtrasThatItLacks, ()) {
-  TestSession test;
-  RC_ASSERT(Opened(test, Told(AnyGoodFile().Text())));
-  std::vector<IdeEntry> expected = RecordsOf(test.vars.Ides);
+  Opened opened(Told(AnyGoodFile().Text()));
+  std::vector<IdeEntry> expected = RecordsOf(opened.file.records);
   std::transform(expected.begin(), expected.end(), expected.begin(), AsWritten);
-  RC_ASSERT(Opened(test, Saved(test)));
-  RC_ASSERT(RecordsOf(test.vars.Ides) == expected);
+  RC_ASSERT(RecordsOf(Opened(opened.Saved()).file.records) == expected);
 }
 
 RC_GTEST_PROP(DefinitionLaws, ASavedFileThatIsLoadedAndSavedAgainOnlyGrowsByAnEmptyLine, ()) {
-  TestSession test;
-  RC_ASSERT(Opened(test, Told(AnyGoodFile().Text())));
-  const std::string once = Saved(test);
-  RC_ASSERT(Saved(test) == once + "\r\n");
-  RC_ASSERT(Opened(test, once));
-  RC_ASSERT(Saved(test) == once + "\r\n");
+  Opened opened(Told(AnyGoodFile().Text()));
+  const std::string once = opened.Saved();
+  RC_ASSERT(opened.Saved() == once + "\r\n");
+  RC_ASSERT(Opened(once).Saved() == once + "\r\n");
 }
 
 RC_GTEST_PROP(DefinitionLaws, AnUneditedSaveKeepsEveryCommentOfTheFile, ()) {
   const std::string text = Told(AnyFile());
-  TestSession test;
-  RC_PRE(Opened(test, text));
+  Opened opened(text);
+  RC_PRE(!opened.file.damagedLine);
   const auto commentsOf = [](const std::string& file) {
     std::string comments;
     for (const std::string& line : PlainLines(file)) {
@@ -222,7 +201,7 @@ RC_GTEST_PROP(DefinitionLaws, AnUneditedSaveKeepsEveryCommentOfTheFile, ()) {
     }
     return comments;
   };
-  RC_ASSERT(commentsOf(Saved(test)) == commentsOf(text));
+  RC_ASSERT(commentsOf(opened.Saved()) == commentsOf(text));
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
 // What holds for the way of vehicles from one session to another, whatever they are.
-#include "screen/HandlingFields.h"
+#include "formats/HandlingLine.h"
 #include "support/Exchange.h"
 #include "support/Generators.h"
 #include "support/ImportReference.h"
@@ -33,7 +33,7 @@ rc::Gen<char> TokenByte() {
 Car AnyCar(const std::string& name) {
   Car car;
   car.LineKind = *rc::gen::inRange<std::int16_t>(0, 4);
-  for (const HandlingField& field : kHandlingFields) car.*field.value = Repeated(TokenByte(), 1, 9);
+  for (const HandlingToken& token : kHandlingTokens) car.*token.value = Repeated(TokenByte(), 1, 9);
   car.ModelFlags = Repeated(TokenByte(), 7, 9);
   car.CarName = name;
   return car;

@@ -1,11 +1,9 @@
 // What holds for every handling file, however odd.
 #include "core/Failure.h"
-#include "gamefiles/HandlingReader.h"
-#include "gamefiles/HandlingWriter.h"
+#include "formats/HandlingFile.h"
 #include "support/Generators.h"
 #include "support/HandlingReference.h"
 #include "support/Records.h"
-#include "support/TestSession.h"
 #include "support/Thrown.h"
 #include "support/VehicleTokens.h"
 
@@ -19,8 +17,6 @@ namespace wheelwright::testing {
 namespace {
 
 using Lines = std::vector<std::string>;
-
-constexpr const char* kPath = TestSession::kHandlingPath;
 
 // Names of which some are the beginning of others, equal but for case, or too long for the list.
 rc::Gen<std::string> OddName() {
@@ -135,39 +131,37 @@ GoodFile RandomGoodFile() {
   for (const char kind : kinds) {
     if (*rc::gen::inRange(0, 3) == 0) lines.push_back("% " + std::string(2, kind) + kind);
   }
-  file.text = Told(TextOfLines(lines));
+  file.text = TextOfLines(lines);
   return file;
 }
 
-// Opens the file; false if the load failed.
-bool Opened(TestSession& test, const std::string& text) {
-  test.OpenHandling(text);
-  return test.LastShown() == "normal";
-}
+// A text that is read and then saved, each time over what the last save made of it.
+struct Opened {
+  explicit Opened(const std::string& text)
+      : onDisk(text), failure(NumberThrownBy([&] { ReadHandling(text, file); })) {}
 
-std::string Saved(TestSession& test) {
-  test.main.cmdSave.ClickByHand();
-  return test.Disk(kPath);
-}
+  std::string Saved() {
+    onDisk = WriteHandling(onDisk, {file.names, file.cars, file.author, file.created}) + "\r\n";
+    return onDisk;
+  }
+
+  std::string onDisk;
+  HandlingFile file;
+  int failure;
+};
 
 RC_GTEST_PROP(HandlingLaws, TheReaderReadsWhatAPlainOneReads, ()) {
   const std::string text = Told(RandomFile());
-  TestSession test;
-  test.files.contents[kPath] = text;
-  test.vars.CurrentFile = kPath;
-  const int failure = NumberThrownBy([&] { LoadHandlingFile(test.session); });
-  const PlainHandling plain = ReadPlainly(text, test.main);
-  RC_TAG(failure);
-  RC_ASSERT(failure == plain.failure);
-  RC_ASSERT(test.main.cmbAutos.Rows() == plain.names);
-  RC_ASSERT(test.main.txtAuthor.Text() == plain.author);
-  RC_ASSERT(test.main.txtDate.Text() == plain.date);
-  RC_ASSERT(test.error.lstErrors.Rows() == plain.rows);
-  RC_ASSERT(test.error.IsVisible() == plain.windowShown);
-  const Table<Car> records = TableOf(plain.records);
-  RC_ASSERT(TokensOf(test.vars.Kopie_Cars) == TokensOf(records));
-  RC_ASSERT(KindsOf(test.vars.Kopie_Cars) == KindsOf(records));
-  if (failure == 0) RC_ASSERT(RecordsOf(test.vars.Cars) == plain.records);
+  const Opened opened(text);
+  const PlainHandling plain = ReadPlainly(text);
+  RC_TAG(opened.failure);
+  RC_ASSERT(opened.failure == plain.failure);
+  RC_ASSERT(opened.file.names == plain.names);
+  RC_ASSERT(opened.file.author == plain.author);
+  RC_ASSERT(opened.file.created == plain.date);
+  RC_ASSERT(opened.file.problems == plain.problems);
+  RC_ASSERT(opened.file.hasOddNames == plain.hasOddNames);
+  RC_ASSERT(RecordsOf(opened.file.cars) == plain.records);
 }
 
 RC_GTEST_PROP(HandlingLaws, TheWriterWritesWhatAPlainOneWrites, ()) {
@@ -177,32 +171,25 @@ RC_GTEST_PROP(HandlingLaws, TheWriterWritesWhatAPlainOneWrites, ()) {
   for (const std::string& name : *rc::gen::container<Lines>(OddName())) {
     cars.push_back(CarOf(TokensWith(name, *rc::gen::inRange<std::size_t>(1, 33), *Token())));
   }
-  TestSession test;
-  test.files.contents[kPath] = text;
-  test.vars.CurrentFile = kPath;
-  test.vars.Cars = TableOf(cars);
-  test.main.cmbAutos.AddRows(names);
-  test.main.txtAuthor.SetText(*Token());
-  test.main.txtDate.SetText(*Token());
-  RC_ASSERT(RewriteHandlingText(test.session) == WritePlainly(text, test.main.cmbAutos.Rows(), cars,
-                                                              test.main.txtAuthor.Text(),
-                                                              test.main.txtDate.Text()));
+  const std::string author = *Token();
+  const std::string date = *Token();
+  RC_ASSERT(WriteHandling(text, {names, TableOf(cars), author, date}) ==
+            WritePlainly(text, names, cars, author, date));
 }
 
 RC_GTEST_PROP(HandlingLaws, ForeignLinesComeThroughByteForByteInOrder, ()) {
   const std::string text = Told(RandomFile());
-  TestSession test;
-  RC_PRE(Opened(test, text));
-  const std::string author = "; Author: " + test.main.txtAuthor.Text();
-  const std::string date = "; Created " + test.main.txtDate.Text();
+  Opened opened(text);
+  RC_PRE(opened.failure == 0);
   Lines expected;
   for (const std::string& line : ForeignLines(text)) {
-    const std::string rewritten = WritePlainly(line, {}, {}, author.substr(10), date.substr(10));
+    const std::string rewritten =
+        WritePlainly(line, {}, {}, opened.file.author, opened.file.created);
     const Lines lines = PlainLines(rewritten);
     const bool dropped = lines.size() < 3 || (lines.size() == 4 && lines[2] == ";");
     if (!dropped) expected.push_back(lines[2]);
   }
-  Lines found = ForeignLines(Saved(test));
+  Lines found = ForeignLines(opened.Saved());
   found.erase(found.begin(), found.begin() + 2);
   if (found.size() > expected.size()) {
     expected.insert(expected.end(), {";", ";the end"});
@@ -211,27 +198,26 @@ RC_GTEST_PROP(HandlingLaws, ForeignLinesComeThroughByteForByteInOrder, ()) {
 }
 
 RC_GTEST_PROP(HandlingLaws, ASecondSaveAddsAnEmptyLineAtMost, ()) {
-  TestSession test;
-  RC_PRE(Opened(test, Told(RandomFile())));
-  const std::string once = Saved(test);
-  const std::string twice = Saved(test);
+  Opened opened(Told(RandomFile()));
+  RC_PRE(opened.failure == 0 && !opened.file.names.empty());
+  const std::string once = opened.Saved();
+  const std::string twice = opened.Saved();
   RC_ASSERT(twice == once || twice == once + "\r\n");
-  RC_ASSERT(Saved(test) == twice);
+  RC_ASSERT(opened.Saved() == twice);
 }
 
 RC_GTEST_PROP(HandlingLaws, TokensComeThroughASaveUnchanged, ()) {
   const GoodFile file = RandomGoodFile();
   RC_PRE(!file.vehicles.empty());
-  TestSession test;
-  test.OpenHandling(file.text);
-  RC_ASSERT(test.LastShown() == "normal");
-  RC_ASSERT(TokensOf(test.vars.Kopie_Cars) == file.vehicles);
+  Opened opened(Told(file.text));
+  RC_ASSERT(opened.failure == 0);
+  RC_ASSERT(TokensOf(opened.file.cars) == file.vehicles);
   Lines expected;
   for (const Tokens& tokens : file.vehicles) {
     expected.push_back(PlainLines(WritePlainly("x", {tokens[0]}, {CarOf(tokens)}, "", ""))[2]);
   }
   std::sort(expected.begin(), expected.end());
-  Lines found = PlainLines(Saved(test));
+  Lines found = PlainLines(opened.Saved());
   found.erase(std::remove_if(found.begin(), found.end(), IsForeign), found.end());
   found.erase(std::remove(found.begin(), found.end(), ""), found.end());
   RC_ASSERT(found == expected);
@@ -240,14 +226,11 @@ RC_GTEST_PROP(HandlingLaws, TokensComeThroughASaveUnchanged, ()) {
 RC_GTEST_PROP(HandlingLaws, TheSavedFileGivesTheSameRecords, ()) {
   const GoodFile file = RandomGoodFile();
   RC_PRE(!file.vehicles.empty());
-  TestSession test;
-  test.OpenHandling(file.text);
-  std::vector<Car> before = RecordsOf(test.vars.Kopie_Cars);
+  Opened opened(Told(file.text));
+  std::vector<Car> before = RecordsOf(opened.file.cars);
   std::sort(before.begin(), before.end(),
             [](const Car& left, const Car& right) { return left.CarName < right.CarName; });
-  test.OpenHandling(Saved(test));
-  RC_ASSERT(test.LastShown() == "normal");
-  RC_ASSERT(RecordsOf(test.vars.Kopie_Cars) == before);
+  RC_ASSERT(RecordsOf(Opened(opened.Saved()).file.cars) == before);
 }
 
 }  // namespace

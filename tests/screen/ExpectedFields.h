@@ -1,8 +1,7 @@
 // The fields of the two kinds of records as the windows must show them.
 #pragma once
 
-#include "screen/DefinitionFields.h"
-#include "screen/HandlingFields.h"
+#include "screen/Fields.h"
 
 #include <array>
 #include <string>
@@ -22,78 +21,64 @@ struct ExpectedRow {
   int infoLang;
 };
 
-struct ExpectedHandlingField {
-  const char* name;
-  std::string Car::*value;
-  const char* missing;
-  TokenCheck check;
+template <class Record>
+struct ExpectedField {
+  std::string Record::*value;
   bool named;
-  int order;
   ExpectedRow shown;
 };
 
-struct ExpectedDefinitionField {
-  const char* name;
-  std::string IdeEntry::*value;
-  int order;
-  ExpectedRow shown;
-};
-
-inline constexpr TokenCheck kAny = TokenCheck::None;
-inline constexpr TokenCheck kNumber = TokenCheck::MustBeNumeric;
-inline constexpr TokenCheck kWord = TokenCheck::MustNotBeNumeric;
-
+// Both in the order in which a display fills the controls.
 // clang-format off
-inline const std::array<ExpectedHandlingField, 33> kExpectedHandlingFields = {{
-    {"CarName", &Car::CarName, "0.0", kWord, true, 1, {kGeneralTab, 0, "lblAutoname", "Autoname", 15, "txtAutoname", "lblAutonameInfo", "(Maximal 14 Buchstaben)", 16}},
-    {"Mass", &Car::Mass, "0.0", kNumber, true, 2, {kGeneralTab, 1, "lblGewicht", "Gewicht (kg)", 17, "txtGewicht", "lblGewichtInfo", "(1.0 bis 50000.0)", 18}},
-    {"DimensionX", &Car::DimensionX, "0.0", kNumber, true, 3, {kDimensionsTab, 0, "lblBreite", "Breite (m)", 19, "txtBreite", "lblBreiteInfo", "(0.0 > x > 20.0)", 20}},
-    {"DimensionY", &Car::DimensionY, "0.0", kNumber, true, 4, {kDimensionsTab, 1, "lblHoehe", "Höhe (m)", 21, "txtHoehe", "lblHoeheInfo", "(0.0 > x > 20.0)", 22}},
-    {"DimensionZ", &Car::DimensionZ, "0.0", kNumber, true, 5, {kDimensionsTab, 2, "lblLaenge", "Länge (m)", 23, "txtLaenge", "lblLaengeInfo", "(0.0 > x > 20.0)", 24}},
-    {"CenterOfMassX", &Car::CenterOfMassX, "0.0", kNumber, true, 6, {kDimensionsTab, 3, "lblMassenmittelpX", "Massenmittelp. X", 25, "txtMassenmittelpX", "lblMassenmittelpXInfo", "(-10.0 > x > 10.0)", 26}},
-    {"CenterOfMassY", &Car::CenterOfMassY, "0.0", kNumber, true, 7, {kDimensionsTab, 4, "lblMassenmittelpY", "Massenmittelp. Y", 27, "txtMassenmittelpY", "lblMassenmittelpYInfo", "(-10.0 > x > 10.0)", 28}},
-    {"CenterOfMassZ", &Car::CenterOfMassZ, "0.0", kNumber, true, 8, {kDimensionsTab, 5, "lblMassenmittelpZ", "Massenmittelp. Z", 29, "txtMassenmittelpZ", "lblMassenmittelpZInfo", "(-10.0 > x > 10.0)", 30}},
-    {"PercentSubmerged", &Car::PercentSubmerged, "0", kNumber, true, 9, {kDimensionsTab, 6, "lblSubMerged", "Versinkt (%)", 31, "txtSubMerged", "lblSubMergedInfo", "im Wasser (10 to 120)", 32}},
-    {"TractionMultiplier", &Car::TractionMultiplier, "0.0", kNumber, true, 10, {kDriveTab, 0, "lblTractionMulti", "Zugkraft - Multipl.", 33, "txtTractionMulti", "lblTractionMultiInfo", "(0.5 bis 2.0)", 34}},
-    {"TractionLoss", &Car::TractionLoss, "0.0", kNumber, true, 11, {kDriveTab, 1, "lblTractionLoss", "Zugkraft - Verlust", 35, "txtTractionLoss", "lblTractionLossInfo", "(0.0 > x > 1.0)", 36}},
-    {"TractionBias", &Car::TractionBias, "0.0", kNumber, true, 12, {kDriveTab, 2, "lblTractionBias", "Zugkraft - Vorsp.", 37, "txtTractionBias", "lblTractionBiasInfo", "(0.0 > x > 1.0)", 38}},
-    {"GearCount", &Car::GearCount, "0", kNumber, true, 14, {kDriveTab, 3, "lblGaenge", "Anzahl Gänge", 39, "txtGaenge", "lblGaengeInfo", "(1 bis 5)", 40}},
-    {"MaxVelocity", &Car::MaxVelocity, "0.0", kNumber, true, 15, {kDriveTab, 4, "lblGeschwindigkeit", "Geschw. (km/h)", 41, "txtGeschwindigkeit", "lblGeschwindigkeitInfo", "(5.0 bis 150.0)", 42}},
-    {"EngineAcceleration", &Car::EngineAcceleration, "0.0", kNumber, true, 16, {kDriveTab, 5, "lblBeschleunigung", "Beschl. (m/s^2)", 43, "txtBeschleunigung", "lblBeschleunigungInfo", "(0.1 bis 10.0)", 44}},
-    {"DriveType", &Car::DriveType, "F", kAny, false, 17, {kDriveTab, 6, "lblAntrieb", "Antrieb", 45, "cmbAntrieb", "", "", kNoLang}},
-    {"EngineType", &Car::EngineType, "P", kWord, true, 18, {kDriveTab, 7, "lblMotorTyp", "Motor-Typ", 49, "cmbMotor", "", "", kNoLang}},
-    {"BrakeDeceleration", &Car::BrakeDeceleration, "0.0", kNumber, true, 19, {kBrakesTab, 0, "lblBremsstaerke", "Bremsstärke", 53, "txtBremsstaerke", "lblBremsstaerkeInfo", "(0.1 bis 10.0)", 54}},
-    {"BrakeBias", &Car::BrakeBias, "0.0", kNumber, true, 20, {kBrakesTab, 1, "lblBrakeBias", "Brake Bias", 55, "txtBrakeBias", "lblBrakeBiasInfo", "(0.0 bis 1.0)", 56}},
-    {"ABS", &Car::ABS, "0", kNumber, true, 21, {kBrakesTab, 2, "lblABS", "ABS", 57, "chkABS", "", "", kNoLang}},
-    {"SteeringLock", &Car::SteeringLock, "0.0", kNumber, true, 22, {kSuspensionTab, 0, "lblRadeinschlag", "Radeinschlag", 58, "txtRadeinschlag", "lblRadeinschlagInfo", "(10.0 bis 40.0)", 59}},
-    {"SuspensionForceLevel", &Car::SuspensionForceLevel, "0.0", kNumber, true, 23, {kSuspensionTab, 1, "lblKraftlevel", "Kraftlevel", 65, "txtKraftlevel", "lblKraftlevelInfo", "(>= 0.0)", 66}},
-    {"SuspensionDampingLevel", &Car::SuspensionDampingLevel, "0.0", kNumber, true, 24, {kSuspensionTab, 2, "lblDLevel", "Dämpfungslevel", 67, "txtDLevel", "lblDLevelInfo", "(>= 0.0)", 68}},
-    {"SeatOffset", &Car::SeatOffset, "0.0", kNumber, true, 29, {kGeneralTab, 2, "lblPedSeat", "Ped Seat Offset", 75, "txtPedSeat", "lblPedSeatInfo", "(>= 0.0)", 76}},
-    {"CollisionDamageMultiplier", &Car::CollisionDamageMultiplier, "0.0", kNumber, true, 30, {kGeneralTab, 3, "lblKoll", "Koll.-Schaden-Multipl.", 77, "txtKoll", "lblKollInfo", "(0.2 bis 5.0)", 78}},
-    {"MonetaryValue", &Car::MonetaryValue, "0", kNumber, true, 31, {kGeneralTab, 4, "lblPreis", "Geldwert/Preis", 79, "txtPreis", "lblPreisInfo", "(1 bis 100000)", 80}},
-    {"suspension_upper_limit", &Car::suspension_upper_limit, "0.0", kNumber, true, 25, {kSuspensionTab, 3, "lblOLimit", "Oberes Limit", 69, "txtOLimit", "lblOLimitInfo", "(-1.0 bis 1.0)", 70}},
-    {"suspension_lower_limit", &Car::suspension_lower_limit, "0.0", kNumber, true, 26, {kSuspensionTab, 4, "lblULimit", "Unteres Limit", 71, "txtULimit", "lblULimitInfo", "(-1.0 bis 1.0)", 72}},
-    {"SuspensionBias", &Car::SuspensionBias, "0.0", kNumber, true, 27, {kSuspensionTab, 5, "lblBias", "Bias between F/R", 73, "txtBias", "lblBiasInfo", "(-1.0 bis 1.0)", 74}},
-    {"SuspensionAntiDive", &Car::SuspensionAntiDive, "0.0", kNumber, false, 28, {kSuspensionTab, 6, "lblDive", "Anti-Tauch Multipl", 178, "txtDive", "lblDiveInfo", "(-1.0 bis 1.0)", 179}},
-    {"ModelFlags", &Car::ModelFlags, "0000000", kAny, false, 34, {kFlagsTab, kNoTabRow, "", "", kNoLang, "", "", "", kNoLang}},
-    {"FrontLights", &Car::FrontLights, "0", kNumber, true, 32, {kGeneralTab, 5, "lblFrontLichter", "Vorderlichter", 81, "cmbFrontLichter", "", "", kNoLang}},
-    {"RearLights", &Car::RearLights, "0", kNumber, true, 33, {kGeneralTab, 6, "lblRearLichter", "Hinterlichter", 86, "cmbRearLichter", "", "", kNoLang}},
+inline const std::array<ExpectedField<Car>, 32> kExpectedHandlingFields = {{
+    {&Car::CarName, true, {kGeneralTab, 0, "lblAutoname", "Autoname", 15, "txtAutoname", "lblAutonameInfo", "(Maximal 14 Buchstaben)", 16}},
+    {&Car::Mass, true, {kGeneralTab, 1, "lblGewicht", "Gewicht (kg)", 17, "txtGewicht", "lblGewichtInfo", "(1.0 bis 50000.0)", 18}},
+    {&Car::DimensionX, true, {kDimensionsTab, 0, "lblBreite", "Breite (m)", 19, "txtBreite", "lblBreiteInfo", "(0.0 > x > 20.0)", 20}},
+    {&Car::DimensionY, true, {kDimensionsTab, 1, "lblHoehe", "Höhe (m)", 21, "txtHoehe", "lblHoeheInfo", "(0.0 > x > 20.0)", 22}},
+    {&Car::DimensionZ, true, {kDimensionsTab, 2, "lblLaenge", "Länge (m)", 23, "txtLaenge", "lblLaengeInfo", "(0.0 > x > 20.0)", 24}},
+    {&Car::CenterOfMassX, true, {kDimensionsTab, 3, "lblMassenmittelpX", "Massenmittelp. X", 25, "txtMassenmittelpX", "lblMassenmittelpXInfo", "(-10.0 > x > 10.0)", 26}},
+    {&Car::CenterOfMassY, true, {kDimensionsTab, 4, "lblMassenmittelpY", "Massenmittelp. Y", 27, "txtMassenmittelpY", "lblMassenmittelpYInfo", "(-10.0 > x > 10.0)", 28}},
+    {&Car::CenterOfMassZ, true, {kDimensionsTab, 5, "lblMassenmittelpZ", "Massenmittelp. Z", 29, "txtMassenmittelpZ", "lblMassenmittelpZInfo", "(-10.0 > x > 10.0)", 30}},
+    {&Car::PercentSubmerged, true, {kDimensionsTab, 6, "lblSubMerged", "Versinkt (%)", 31, "txtSubMerged", "lblSubMergedInfo", "im Wasser (10 to 120)", 32}},
+    {&Car::TractionMultiplier, true, {kDriveTab, 0, "lblTractionMulti", "Zugkraft - Multipl.", 33, "txtTractionMulti", "lblTractionMultiInfo", "(0.5 bis 2.0)", 34}},
+    {&Car::TractionLoss, true, {kDriveTab, 1, "lblTractionLoss", "Zugkraft - Verlust", 35, "txtTractionLoss", "lblTractionLossInfo", "(0.0 > x > 1.0)", 36}},
+    {&Car::TractionBias, true, {kDriveTab, 2, "lblTractionBias", "Zugkraft - Vorsp.", 37, "txtTractionBias", "lblTractionBiasInfo", "(0.0 > x > 1.0)", 38}},
+    {&Car::GearCount, true, {kDriveTab, 3, "lblGaenge", "Anzahl Gänge", 39, "txtGaenge", "lblGaengeInfo", "(1 bis 5)", 40}},
+    {&Car::MaxVelocity, true, {kDriveTab, 4, "lblGeschwindigkeit", "Geschw. (km/h)", 41, "txtGeschwindigkeit", "lblGeschwindigkeitInfo", "(5.0 bis 150.0)", 42}},
+    {&Car::EngineAcceleration, true, {kDriveTab, 5, "lblBeschleunigung", "Beschl. (m/s^2)", 43, "txtBeschleunigung", "lblBeschleunigungInfo", "(0.1 bis 10.0)", 44}},
+    {&Car::DriveType, true, {kDriveTab, 6, "lblAntrieb", "Antrieb", 45, "cmbAntrieb", "", "", kNoLang}},
+    {&Car::EngineType, true, {kDriveTab, 7, "lblMotorTyp", "Motor-Typ", 49, "cmbMotor", "", "", kNoLang}},
+    {&Car::BrakeDeceleration, true, {kBrakesTab, 0, "lblBremsstaerke", "Bremsstärke", 53, "txtBremsstaerke", "lblBremsstaerkeInfo", "(0.1 bis 10.0)", 54}},
+    {&Car::BrakeBias, true, {kBrakesTab, 1, "lblBrakeBias", "Brake Bias", 55, "txtBrakeBias", "lblBrakeBiasInfo", "(0.0 bis 1.0)", 56}},
+    {&Car::ABS, true, {kBrakesTab, 2, "lblABS", "ABS", 57, "chkABS", "", "", kNoLang}},
+    {&Car::SteeringLock, true, {kSuspensionTab, 0, "lblRadeinschlag", "Radeinschlag", 58, "txtRadeinschlag", "lblRadeinschlagInfo", "(10.0 bis 40.0)", 59}},
+    {&Car::SuspensionForceLevel, true, {kSuspensionTab, 1, "lblKraftlevel", "Kraftlevel", 65, "txtKraftlevel", "lblKraftlevelInfo", "(>= 0.0)", 66}},
+    {&Car::SuspensionDampingLevel, true, {kSuspensionTab, 2, "lblDLevel", "Dämpfungslevel", 67, "txtDLevel", "lblDLevelInfo", "(>= 0.0)", 68}},
+    {&Car::suspension_upper_limit, true, {kSuspensionTab, 3, "lblOLimit", "Oberes Limit", 69, "txtOLimit", "lblOLimitInfo", "(-1.0 bis 1.0)", 70}},
+    {&Car::suspension_lower_limit, true, {kSuspensionTab, 4, "lblULimit", "Unteres Limit", 71, "txtULimit", "lblULimitInfo", "(-1.0 bis 1.0)", 72}},
+    {&Car::SuspensionBias, true, {kSuspensionTab, 5, "lblBias", "Bias between F/R", 73, "txtBias", "lblBiasInfo", "(-1.0 bis 1.0)", 74}},
+    {&Car::SuspensionAntiDive, false, {kSuspensionTab, 6, "lblDive", "Anti-Tauch Multipl", 178, "txtDive", "lblDiveInfo", "(-1.0 bis 1.0)", 179}},
+    {&Car::SeatOffset, true, {kGeneralTab, 2, "lblPedSeat", "Ped Seat Offset", 75, "txtPedSeat", "lblPedSeatInfo", "(>= 0.0)", 76}},
+    {&Car::CollisionDamageMultiplier, true, {kGeneralTab, 3, "lblKoll", "Koll.-Schaden-Multipl.", 77, "txtKoll", "lblKollInfo", "(0.2 bis 5.0)", 78}},
+    {&Car::MonetaryValue, true, {kGeneralTab, 4, "lblPreis", "Geldwert/Preis", 79, "txtPreis", "lblPreisInfo", "(1 bis 100000)", 80}},
+    {&Car::FrontLights, true, {kGeneralTab, 5, "lblFrontLichter", "Vorderlichter", 81, "cmbFrontLichter", "", "", kNoLang}},
+    {&Car::RearLights, true, {kGeneralTab, 6, "lblRearLichter", "Hinterlichter", 86, "cmbRearLichter", "", "", kNoLang}},
 }};
 
-inline const std::array<ExpectedDefinitionField, 13> kExpectedDefinitionFields = {{
-    {"ID", &IdeEntry::ID, 1, {kReferencesTab, 0, "lblID", "ID", 125, "txtID", "lblIDInfo", "ID in der default.ide", 126}},
-    {"ModelName", &IdeEntry::ModelName, 3, {kReferencesTab, 1, "lblModelName", "Model-Name", 129, "txtModelName", "lblModelNameInfo", "Referenz zum 3D-Modell", 130}},
-    {"TXDName", &IdeEntry::TXDName, 4, {kReferencesTab, 2, "lblTXDName", "TXD-Name", 131, "txtTXDName", "lblTXDNameInfo", "Referenz zur Textur", 132}},
-    {"Typ", &IdeEntry::Typ, 6, {kPropertiesTab, 0, "lblTyp", "Typ", 135, "cmbTyp", "lblTypInfo", "Fahrzeugtyp", 136}},
-    {"HandlingID", &IdeEntry::HandlingID, 2, {kReferencesTab, 3, "lblHandlingID", "Handling-ID", 127, "txtHandlingID", "lblHandlingIDInfo", "Referenz zu handling.cfg", 128}},
-    {"GameName", &IdeEntry::GameName, 5, {kReferencesTab, 4, "lblGameName", "Game-Name", 133, "txtGameName", "lblGameNameInfo", "Referenz zum Namen im Spiel", 134}},
-    {"Anim", &IdeEntry::Anim, 7, {kPropertiesTab, 1, "lblAnim", "Anim", 180, "cmbAnim", "lblAnimInfo", "Animation", 181}},
-    {"Klasse", &IdeEntry::Klasse, 8, {kPropertiesTab, 2, "lblKlasse", "Klasse", 137, "cmbKlasse", "lblKlasseInfo", "Wer fährt dieses Fahrzeug", 138}},
-    {"Frequenz", &IdeEntry::Frequenz, 9, {kPropertiesTab, 3, "lblFrequenz", "Frequenz", 139, "txtFrequenz", "lblFrequenzInfo", "Häufigkeit des Auftretens", 140}},
-    {"Level", &IdeEntry::Level, 10, {kPropertiesTab, 4, "lblLevel", "Level", 141, "txtLevel", "lblLevelInfo", "Unbekannt", 142}},
-    {"CompRules", &IdeEntry::CompRules, 11, {kPropertiesTab, 5, "lblCompRules", "Comprules", 143, "txtCompRules", "lblCompRulesInfo", "Unbekannt", 144}},
-    {"Extra1", &IdeEntry::Extra1, kByTypeRules, {kPropertiesTab, 6, "lblExtra1", "Extra 1", 145, "txtExtra1", "lblExtra1Info", "Extra 1 Info", 146}},
-    {"Extra2", &IdeEntry::Extra2, kByTypeRules, {kPropertiesTab, 7, "lblExtra2", "Extra 2", 148, "txtExtra2", "lblExtra2Info", "Extra 2 Info", 149}},
+inline const std::array<ExpectedField<IdeEntry>, 13> kExpectedDefinitionFields = {{
+    {&IdeEntry::ID, true, {kReferencesTab, 0, "lblID", "ID", 125, "txtID", "lblIDInfo", "ID in der default.ide", 126}},
+    {&IdeEntry::HandlingID, true, {kReferencesTab, 3, "lblHandlingID", "Handling-ID", 127, "txtHandlingID", "lblHandlingIDInfo", "Referenz zu handling.cfg", 128}},
+    {&IdeEntry::ModelName, true, {kReferencesTab, 1, "lblModelName", "Model-Name", 129, "txtModelName", "lblModelNameInfo", "Referenz zum 3D-Modell", 130}},
+    {&IdeEntry::TXDName, true, {kReferencesTab, 2, "lblTXDName", "TXD-Name", 131, "txtTXDName", "lblTXDNameInfo", "Referenz zur Textur", 132}},
+    {&IdeEntry::GameName, true, {kReferencesTab, 4, "lblGameName", "Game-Name", 133, "txtGameName", "lblGameNameInfo", "Referenz zum Namen im Spiel", 134}},
+    {&IdeEntry::Typ, true, {kPropertiesTab, 0, "lblTyp", "Typ", 135, "cmbTyp", "lblTypInfo", "Fahrzeugtyp", 136}},
+    {&IdeEntry::Anim, true, {kPropertiesTab, 1, "lblAnim", "Anim", 180, "cmbAnim", "lblAnimInfo", "Animation", 181}},
+    {&IdeEntry::Klasse, true, {kPropertiesTab, 2, "lblKlasse", "Klasse", 137, "cmbKlasse", "lblKlasseInfo", "Wer fährt dieses Fahrzeug", 138}},
+    {&IdeEntry::Frequenz, true, {kPropertiesTab, 3, "lblFrequenz", "Frequenz", 139, "txtFrequenz", "lblFrequenzInfo", "Häufigkeit des Auftretens", 140}},
+    {&IdeEntry::Level, true, {kPropertiesTab, 4, "lblLevel", "Level", 141, "txtLevel", "lblLevelInfo", "Unbekannt", 142}},
+    {&IdeEntry::CompRules, true, {kPropertiesTab, 5, "lblCompRules", "Comprules", 143, "txtCompRules", "lblCompRulesInfo", "Unbekannt", 144}},
+    {&IdeEntry::Extra1, true, {kPropertiesTab, 6, "lblExtra1", "Extra 1", 145, "txtExtra1", "lblExtra1Info", "Extra 1 Info", 146}},
+    {&IdeEntry::Extra2, true, {kPropertiesTab, 7, "lblExtra2", "Extra 2", 148, "txtExtra2", "lblExtra2Info", "Extra 2 Info", 149}},
 }};
 // clang-format on
 

@@ -1,7 +1,7 @@
 // What the windows must hold beside the rows of their data fields.
 #pragma once
 
-#include "screen/HandlingFields.h"
+#include "screen/Fields.h"
 #include "screen/MainWindow.h"
 
 #include <array>

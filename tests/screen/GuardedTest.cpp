@@ -1,4 +1,4 @@
-#include "screen/Guarded.h"
+#include "screen/Session.h"
 #include "support/TestSession.h"
 
 #include <gtest/gtest.h>

@@ -76,7 +76,6 @@ void AddControls(const Table& table, Texts& controls) {
 }
 
 void AddRow(const ExpectedRow& row, const char* group, Texts& controls) {
-  if (row.row == kNoTabRow) return;
   controls.push_back(Described(row.label, "label", group, row.tab, row.caption));
   controls.push_back(Described(row.input, KindByName(row.input), group, row.tab, ""));
   if (std::string(row.info).empty()) return;
@@ -128,10 +127,8 @@ Texts ExpectedTranslations(const Table& table) {
 TEST(InventoryTest, TheMainWindowHoldsItsControlsAndNoOthers) {
   Texts expected;
   AddControls(kMainControls, expected);
-  for (const ExpectedHandlingField& field : kExpectedHandlingFields)
-    AddRow(field.shown, "SSTab1", expected);
-  for (const ExpectedDefinitionField& field : kExpectedDefinitionFields)
-    AddRow(field.shown, "SSTab2", expected);
+  for (const auto& field : kExpectedHandlingFields) AddRow(field.shown, "SSTab1", expected);
+  for (const auto& field : kExpectedDefinitionFields) AddRow(field.shown, "SSTab2", expected);
   int number = 0;
   for (const char* caption : kFlags) {
     const std::string name = "chkFlag" + std::to_string(++number);

@@ -1,8 +1,8 @@
-// The reader of the handling file alone, without the open command around it.
+// The reader of the handling file.
 #pragma once
 
-#include "gamefiles/HandlingReader.h"
-#include "support/TestSession.h"
+#include "formats/HandlingFile.h"
+#include "support/TableTexts.h"
 #include "support/Thrown.h"
 #include "support/VehicleTokens.h"
 
@@ -16,14 +16,10 @@ class HandlingReading : public ::testing::Test {
  protected:
   using Names = std::vector<std::string>;
   using Kinds = std::vector<int>;
-  using Rows = std::vector<ReportList::Row>;
 
-  // Reads a file of this text into an empty list.
   void Read(const std::string& text) {
-    test.files.contents[TestSession::kHandlingPath] = text;
-    test.vars.CurrentFile = TestSession::kHandlingPath;
-    test.main.cmbAutos.Clear();
-    LoadHandlingFile(test.session);
+    file = {};
+    ReadHandling(text, file);
   }
 
   // The number of the failure that ends the reading, 0 if none does.
@@ -31,11 +27,11 @@ class HandlingReading : public ::testing::Test {
     return NumberThrownBy([&] { Read(text); });
   }
 
-  Names Listed() const { return test.main.cmbAutos.Rows(); }
-  Names Recorded() const { return NamesOf(test.vars.Cars); }
-  Kinds Marked() const { return KindsOf(test.vars.Cars); }
+  Names Listed() const { return file.names; }
+  Names Recorded() const { return NamesOf(file.cars); }
+  Kinds Marked() const { return KindsOf(file.cars); }
 
-  TestSession test;
+  HandlingFile file;
 };
 
 }  // namespace wheelwright::testing

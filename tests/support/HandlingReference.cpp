@@ -7,8 +7,6 @@
 namespace wheelwright::testing {
 namespace {
 
-using Rows = std::vector<ReportList::Row>;
-
 constexpr std::size_t kHead = 14;
 
 std::string CutBlanks(std::string text) {
@@ -25,36 +23,29 @@ bool HoldsInAnyCase(const std::string& text, const std::string& part) {
   return Holds(FoldedCase(text), FoldedCase(part));
 }
 
-void AddRow(const Tokens& tokens, const std::string& caption, const std::string& problem,
-            Rows& rows) {
-  rows.push_back({tokens.empty() ? "0.0" : tokens[0], caption, problem});
-}
+std::string NameOf(const Tokens& tokens) { return tokens.empty() ? "0.0" : tokens[0]; }
 
-std::string ParsedToken(const Tokens& tokens, std::size_t index, const FrmMain& captions,
-                        Rows& rows) {
+std::string ParsedToken(const Tokens& tokens, std::size_t index, LineProblems& problems) {
   const TokenRule& rule = kTokenRules[index];
   if (index >= tokens.size()) return rule.missing;
   const std::string& token = tokens[index];
-  const std::string caption = rule.label == nullptr ? "" : (captions.*rule.label).Caption();
-  if (rule.rule == Rule::Word && IsNumeric(token)) AddRow(tokens, caption, "E104", rows);
-  if (rule.rule == Rule::Number && !IsNumeric(token)) AddRow(tokens, caption, "E105", rows);
+  const bool isBad = (rule.check == TokenCheck::MustNotBeNumeric && IsNumeric(token)) ||
+                     (rule.check == TokenCheck::MustBeNumeric && !IsNumeric(token));
+  if (isBad) problems.push_back(BadToken(NameOf(tokens), static_cast<int>(index)));
   return token;
 }
 
 class PlainReader {
  public:
-  explicit PlainReader(const FrmMain& captions) : captions_(captions) {}
-
   PlainHandling Read(const std::string& text) {
     const std::vector<std::string> lines = PlainLines(text);
     for (const std::string& line : lines) FirstPass(line);
-    const bool windowShown = !read_.rows.empty();
-    read_.rows.clear();
+    read_.hasOddNames = !read_.problems.empty();
+    read_.problems.clear();
     read_.records.assign(1, Car{});
     for (const std::string& line : lines) {
       if (read_.failure == 0) SecondPass(line.substr(0, line.find(';')));
     }
-    read_.windowShown = windowShown || !read_.rows.empty();
     return read_;
   }
 
@@ -63,7 +54,7 @@ class PlainReader {
     const std::string head = line.substr(0, kHead);
     const bool marked = head.find_first_of(";%$!") != std::string::npos;
     if (line.size() > kHead && !marked) {
-      AddName(ParsedToken(PlainTokens(CutBlanks(head)), 0, captions_, read_.rows));
+      AddName(ParsedToken(PlainTokens(CutBlanks(head)), 0, read_.problems));
       return;
     }
     const auto semicolon = head.find(';');
@@ -100,7 +91,7 @@ class PlainReader {
 
   void MakeRecord(const Tokens& tokens) {
     if (made_ > 0) read_.records.emplace_back();
-    read_.records[made_] = PlainRecord(tokens, captions_, read_.rows);
+    read_.records[made_] = PlainRecord(tokens, read_.problems);
     ++made_;
   }
 
@@ -115,7 +106,6 @@ class PlainReader {
     read_.records[index].LineKind = static_cast<std::int16_t>(kind);
   }
 
-  const FrmMain& captions_;
   PlainHandling read_;
   std::size_t made_ = 0;
 };
@@ -161,20 +151,18 @@ Tokens PlainTokens(std::string line) {
   return tokens;
 }
 
-Car PlainRecord(const std::vector<std::string>& tokens, const FrmMain& captions, Rows& rows) {
+Car PlainRecord(const std::vector<std::string>& tokens, LineProblems& problems) {
   if (tokens.size() != 33) {
-    AddRow(tokens, "", "E102: " + std::to_string(tokens.size()) + " E103", rows);
+    problems.push_back(WrongCount(NameOf(tokens), static_cast<int>(tokens.size())));
   }
   Tokens parsed;
   for (std::size_t index = 0; index < 33; ++index) {
-    parsed.push_back(ParsedToken(tokens, index, captions, rows));
+    parsed.push_back(ParsedToken(tokens, index, problems));
   }
   return CarOf(parsed);
 }
 
-PlainHandling ReadPlainly(const std::string& text, const FrmMain& captions) {
-  return PlainReader(captions).Read(text);
-}
+PlainHandling ReadPlainly(const std::string& text) { return PlainReader().Read(text); }
 
 std::string WritePlainly(const std::string& onDisk, const std::vector<std::string>& names,
                          const std::vector<Car>& cars, const std::string& author,

@@ -1,11 +1,10 @@
 // The handling file's reader and writer once more: as plain as its description, walking every list
-// for every line, and sharing nothing with the program's own but the number test and the letters'
-// case. The laws hold the two against each other.
+// for every line, and sharing nothing with the program's own but the number test, the letters' case
+// and what a problem is. The laws hold the two against each other.
 #pragma once
 
 #include "core/Records.h"
-#include "screen/Controls.h"
-#include "screen/MainWindow.h"
+#include "formats/HandlingLine.h"
 
 #include <string>
 #include <vector>
@@ -18,8 +17,8 @@ struct PlainHandling {
   std::string author;
   std::string date;
   std::vector<Car> records;
-  std::vector<ReportList::Row> rows;  // of the second pass
-  bool windowShown = false;
+  LineProblems problems;  // of the second pass
+  bool hasOddNames = false;
   int failure = 0;  // its number; what was read until then stands above
 };
 
@@ -29,12 +28,10 @@ std::vector<std::string> PlainLines(const std::string& text);
 // The tokens of a line between its blanks and tabs.
 std::vector<std::string> PlainTokens(std::string line);
 
-// The record of a line's tokens, and the load problems that they give.
-Car PlainRecord(const std::vector<std::string>& tokens, const FrmMain& captions,
-                std::vector<ReportList::Row>& rows);
+// The record of a line's tokens, and the problems that they give.
+Car PlainRecord(const std::vector<std::string>& tokens, LineProblems& problems);
 
-// Reads with the captions of this window and with a language whose entry n is "Ennn".
-PlainHandling ReadPlainly(const std::string& text, const FrmMain& captions);
+PlainHandling ReadPlainly(const std::string& text);
 
 // The text of a save without the line end of the final write.
 std::string WritePlainly(const std::string& onDisk, const std::vector<std::string>& names,

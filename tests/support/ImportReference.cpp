@@ -24,9 +24,10 @@ void PlainImport(Session& session, const std::string& text) {
     for (const std::string& row : list.Rows()) {
       if (line.substr(0, row.size()) != row) continue;
       cars.ExtendTo(next);
-      std::vector<ReportList::Row> problems;
-      cars.At(next) = PlainRecord(tokens, session.main, problems);
-      for (const ReportList::Row& problem : problems) session.error.lstErrors.AddRow(problem);
+      LineProblems problems;
+      cars.At(next) = PlainRecord(tokens, problems);
+      for (const ReportList::Row& problem : RowsOf(problems, session.main))
+        session.error.lstErrors.AddRow(problem);
       line = Joined(tokens);
       ++next;
     }

@@ -1,7 +1,7 @@
 // The plain walk over all names that an index of names stands for.
 #pragma once
 
-#include "gamefiles/NameIndex.h"
+#include "formats/NameIndex.h"
 
 #include <string>
 #include <string_view>

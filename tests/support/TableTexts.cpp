@@ -1,6 +1,14 @@
 #include "support/TableTexts.h"
 
+#include "core/Text.h"
+
 namespace wheelwright::testing {
+
+std::string CrLf(std::initializer_list<std::string_view> lines) {
+  std::string text;
+  for (const std::string_view line : lines) text.append(line).append(kLineEnd);
+  return text;
+}
 
 std::string TextOf(const IdeEntry& entry) {
   std::string text = entry.ID;

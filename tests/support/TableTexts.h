@@ -4,7 +4,9 @@
 #include "core/Records.h"
 #include "core/Table.h"
 
+#include <initializer_list>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace wheelwright::testing {
@@ -36,6 +38,9 @@ Table<Record> TableOf(const std::vector<Record>& records) {
   }
   return table;
 }
+
+// The lines joined, each closed by carriage return and line feed.
+std::string CrLf(std::initializer_list<std::string_view> lines);
 
 // The two lines on top of a saved definition or colour file.
 inline constexpr const char* kBanner =

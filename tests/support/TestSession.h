@@ -6,6 +6,8 @@
 #include "screen/Session.h"
 #include "support/FakeDesktop.h"
 #include "support/MemoryFiles.h"
+#include "support/TableTexts.h"
+#include "support/VehicleTokens.h"
 
 #include <map>
 #include <string>
@@ -23,14 +25,8 @@ class MemorySettings : public Settings {
   std::map<std::pair<std::string, std::string>, std::string> values;
 };
 
-// The lines joined, each closed by carriage return and line feed.
-std::string CrLf(std::initializer_list<std::string_view> lines);
-
 // "E012" for 12.
 std::string LangText(int entry);
-
-// A handling line of 33 good tokens with this name padded to 14 characters and this mass.
-std::string VehicleLineOf(const std::string& name, const std::string& mass = "1500.0");
 
 class TestSession {
  public:

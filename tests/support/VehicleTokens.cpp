@@ -1,48 +1,90 @@
 #include "support/VehicleTokens.h"
 
-#include "support/TestSession.h"
-
+#include <iomanip>
+#include <ostream>
 #include <sstream>
 
 namespace wheelwright::testing {
+namespace {
+
+constexpr TokenCheck kAnything = TokenCheck::None;
+constexpr TokenCheck kNumber = TokenCheck::MustBeNumeric;
+constexpr TokenCheck kWord = TokenCheck::MustNotBeNumeric;
+
+}  // namespace
 
 // clang-format off
 const std::array<TokenRule, 33> kTokenRules = {{
-    {"0.0", Rule::Word, &FrmMain::lblAutoname},
-    {"0.0", Rule::Number, &FrmMain::lblGewicht},
-    {"0.0", Rule::Number, &FrmMain::lblBreite},
-    {"0.0", Rule::Number, &FrmMain::lblHoehe},
-    {"0.0", Rule::Number, &FrmMain::lblLaenge},
-    {"0.0", Rule::Number, &FrmMain::lblMassenmittelpX},
-    {"0.0", Rule::Number, &FrmMain::lblMassenmittelpY},
-    {"0.0", Rule::Number, &FrmMain::lblMassenmittelpZ},
-    {"0", Rule::Number, &FrmMain::lblSubMerged},
-    {"0.0", Rule::Number, &FrmMain::lblTractionMulti},
-    {"0.0", Rule::Number, &FrmMain::lblTractionLoss},
-    {"0.0", Rule::Number, &FrmMain::lblTractionBias},
-    {"0", Rule::Number, &FrmMain::lblGaenge},
-    {"0.0", Rule::Number, &FrmMain::lblGeschwindigkeit},
-    {"0.0", Rule::Number, &FrmMain::lblBeschleunigung},
-    {"F", Rule::Anything, nullptr},
-    {"P", Rule::Word, &FrmMain::lblMotorTyp},
-    {"0.0", Rule::Number, &FrmMain::lblBremsstaerke},
-    {"0.0", Rule::Number, &FrmMain::lblBrakeBias},
-    {"0", Rule::Number, &FrmMain::lblABS},
-    {"0.0", Rule::Number, &FrmMain::lblRadeinschlag},
-    {"0.0", Rule::Number, &FrmMain::lblKraftlevel},
-    {"0.0", Rule::Number, &FrmMain::lblDLevel},
-    {"0.0", Rule::Number, &FrmMain::lblPedSeat},
-    {"0.0", Rule::Number, &FrmMain::lblKoll},
-    {"0", Rule::Number, &FrmMain::lblPreis},
-    {"0.0", Rule::Number, &FrmMain::lblOLimit},
-    {"0.0", Rule::Number, &FrmMain::lblULimit},
-    {"0.0", Rule::Number, &FrmMain::lblBias},
-    {"0.0", Rule::Number, nullptr},
-    {"0000000", Rule::Anything, nullptr},
-    {"0", Rule::Number, &FrmMain::lblFrontLichter},
-    {"0", Rule::Number, &FrmMain::lblRearLichter},
+    {"0.0", kWord, &FrmMain::lblAutoname},
+    {"0.0", kNumber, &FrmMain::lblGewicht},
+    {"0.0", kNumber, &FrmMain::lblBreite},
+    {"0.0", kNumber, &FrmMain::lblHoehe},
+    {"0.0", kNumber, &FrmMain::lblLaenge},
+    {"0.0", kNumber, &FrmMain::lblMassenmittelpX},
+    {"0.0", kNumber, &FrmMain::lblMassenmittelpY},
+    {"0.0", kNumber, &FrmMain::lblMassenmittelpZ},
+    {"0", kNumber, &FrmMain::lblSubMerged},
+    {"0.0", kNumber, &FrmMain::lblTractionMulti},
+    {"0.0", kNumber, &FrmMain::lblTractionLoss},
+    {"0.0", kNumber, &FrmMain::lblTractionBias},
+    {"0", kNumber, &FrmMain::lblGaenge},
+    {"0.0", kNumber, &FrmMain::lblGeschwindigkeit},
+    {"0.0", kNumber, &FrmMain::lblBeschleunigung},
+    {"F", kAnything, nullptr},
+    {"P", kWord, &FrmMain::lblMotorTyp},
+    {"0.0", kNumber, &FrmMain::lblBremsstaerke},
+    {"0.0", kNumber, &FrmMain::lblBrakeBias},
+    {"0", kNumber, &FrmMain::lblABS},
+    {"0.0", kNumber, &FrmMain::lblRadeinschlag},
+    {"0.0", kNumber, &FrmMain::lblKraftlevel},
+    {"0.0", kNumber, &FrmMain::lblDLevel},
+    {"0.0", kNumber, &FrmMain::lblPedSeat},
+    {"0.0", kNumber, &FrmMain::lblKoll},
+    {"0", kNumber, &FrmMain::lblPreis},
+    {"0.0", kNumber, &FrmMain::lblOLimit},
+    {"0.0", kNumber, &FrmMain::lblULimit},
+    {"0.0", kNumber, &FrmMain::lblBias},
+    {"0.0", kNumber, nullptr},
+    {"0000000", kAnything, nullptr},
+    {"0", kNumber, &FrmMain::lblFrontLichter},
+    {"0", kNumber, &FrmMain::lblRearLichter},
 }};
 // clang-format on
+
+LineProblem WrongCount(const std::string& vehicle, int tokens) {
+  return {.vehicle = vehicle, .tokens = tokens};
+}
+
+LineProblem BadToken(const std::string& vehicle, int index) {
+  const auto place = static_cast<std::size_t>(index);
+  return {.vehicle = vehicle,
+          .field = kHandlingTokens[place].value,
+          .failed = kTokenRules[place].check};
+}
+
+std::vector<ReportList::Row> RowsOf(const LineProblems& problems, const FrmMain& captions) {
+  std::vector<ReportList::Row> rows;
+  for (const LineProblem& problem : problems) {
+    std::string text = "E102: " + std::to_string(problem.tokens) + " E103";
+    std::string caption;
+    for (std::size_t i = 0; i < kHandlingTokens.size(); ++i) {
+      if (kHandlingTokens[i].value != problem.field) continue;
+      const TokenRule& rule = kTokenRules[i];
+      text = problem.failed == kWord ? "E104" : "E105";
+      if (rule.label != nullptr) caption = (captions.*rule.label).Caption();
+    }
+    rows.push_back({problem.vehicle, caption, text});
+  }
+  return rows;
+}
+
+std::string VehicleLineOf(const std::string& name, const std::string& mass) {
+  std::ostringstream line;
+  line << std::left << std::setw(14) << name << ' ' << std::right << std::setw(7) << mass
+       << " 1.9 4.6 1.5 0.0 0.1 -0.2 80 0.70 0.75 0.51 5 160.0 20.0 R P 6.1 0.60 0 35.0 1.6 0.08 "
+          "0.20 0.50   9000 0.35 -0.16 0.5 0.3 0000003 0 1";
+  return line.str();
+}
 
 Tokens GoodTokens(const std::string& name) {
   std::istringstream line(VehicleLineOf(name));
@@ -109,3 +151,15 @@ Table<Car> TableOf(const std::vector<Car>& cars) {
 }
 
 }  // namespace wheelwright::testing
+
+namespace wheelwright {
+
+void PrintTo(const LineProblem& problem, std::ostream* out) {
+  *out << '"' << problem.vehicle << "\" ";
+  for (const HandlingToken& token : kHandlingTokens) {
+    if (token.value == problem.field) *out << token.name;
+  }
+  *out << " check " << static_cast<int>(problem.failed) << ", tokens " << problem.tokens;
+}
+
+}  // namespace wheelwright

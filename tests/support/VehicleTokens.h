@@ -3,6 +3,7 @@
 
 #include "core/Records.h"
 #include "core/Table.h"
+#include "formats/HandlingLine.h"
 #include "screen/MainWindow.h"
 
 #include <array>
@@ -14,17 +15,26 @@ namespace wheelwright::testing {
 
 using Tokens = std::vector<std::string>;
 
-enum class Rule { Anything, Number, Word };
-
 // What the format says about one token: its default, its check, and the label whose caption a
 // problem with it shows, null for none.
 struct TokenRule {
   const char* missing;
-  Rule rule;
+  TokenCheck check;
   Label FrmMain::*label;
 };
 
 extern const std::array<TokenRule, 33> kTokenRules;
+
+// Problems as the checks of a line give them.
+LineProblem WrongCount(const std::string& vehicle, int tokens);
+LineProblem BadToken(const std::string& vehicle, int index);
+
+// The rows that problems make with the captions of this window and a language whose entry n is
+// "Ennn".
+std::vector<ReportList::Row> RowsOf(const LineProblems& problems, const FrmMain& captions);
+
+// A handling line of 33 good tokens with this name padded to 14 characters and this mass.
+std::string VehicleLineOf(const std::string& name, const std::string& mass = "1500.0");
 
 // The tokens of VehicleLineOf(name).
 Tokens GoodTokens(const std::string& name);
@@ -48,3 +58,9 @@ std::vector<int> KindsOf(const Table<Car>& cars);
 Table<Car> TableOf(const std::vector<Car>& cars);
 
 }  // namespace wheelwright::testing
+
+namespace wheelwright {
+
+void PrintTo(const LineProblem& problem, std::ostream* out);
+
+}  // namespace wheelwright

@@ -7,8 +7,10 @@ namespace wheelwright::fuzz {
 
 // Each byte of `calls` is one call on the same line: "n" counts its fields, any other byte takes
 // the field of a number.
-void RequireCommaLaws(const std::string& line, const std::string& calls);
-void RequireSpaceLaws(const std::string& line, const std::string& calls);
+void RequireCommaLaws(const std::string& text, const std::string& calls);
+
+// The fields of a line of blanks and its single-blank form.
+void RequireSpaceLaws(const std::string& text);
 
 // All 33 tokens of a handling line, their checks and defaults.
 void RequireHandlingLaws(const std::string& line);

@@ -1,9 +1,9 @@
 #include "fuzz/NameLaws.h"
 
 #include "core/TextIndex.h"
+#include "formats/NameIndex.h"
 #include "fuzz/FuzzInput.h"
 #include "fuzz/Law.h"
-#include "gamefiles/NameIndex.h"
 #include "support/PlainWalk.h"
 
 #include <algorithm>

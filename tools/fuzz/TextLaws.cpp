@@ -2,8 +2,8 @@
 
 #include "core/CodePage.h"
 #include "core/Text.h"
+#include "formats/Lines.h"
 #include "fuzz/Law.h"
-#include "gamefiles/Lines.h"
 #include "support/HandlingReference.h"
 
 #include <array>

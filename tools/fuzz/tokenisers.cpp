@@ -27,7 +27,7 @@ void TakeApart(FuzzInput input) {
     case 'c':
       return RequireCommaLaws(text, other);
     case 's':
-      return RequireSpaceLaws(text, other);
+      return RequireSpaceLaws(text);
     case 'h':
       return RequireHandlingLaws(text);
     case 'n':

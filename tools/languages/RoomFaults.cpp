@@ -1,11 +1,11 @@
 #include "languages/RoomFaults.h"
 
-#include "editor/HandlingRecord.h"
+#include "editor/ShowVehicle.h"
 #include "language/ApplyLanguage.h"
 #include "languages/Sightings.h"
 #include "replay/OnScreen.h"
 #include "replay/RealScreen.h"
-#include "screen/HandlingFields.h"
+#include "screen/Fields.h"
 
 #include <algorithm>
 #include <array>

@@ -1,12 +1,11 @@
 #include "languages/Sightings.h"
 
-#include "editor/HandlingRecord.h"
+#include "editor/ShowVehicle.h"
 #include "editor/TypeRules.h"
 #include "language/ApplyLanguage.h"
 #include "replay/Names.h"
 #include "replay/PlainScreen.h"
-#include "screen/DefinitionFields.h"
-#include "screen/HandlingFields.h"
+#include "screen/Fields.h"
 
 #include <algorithm>
 #include <functional>
@@ -27,7 +26,7 @@ void MarkEntries(Vars& vars) {
 bool IsHint(const Session& session, const Control& control) {
   const FrmMain& main = session.main;
   const auto shownBy = [&](const auto& field) {
-    return field.info != nullptr && &(main.*field.info) == &control;
+    return field.hint.control != nullptr && &(main.*field.hint.control) == &control;
   };
   return std::any_of(kHandlingFields.begin(), kHandlingFields.end(), shownBy) ||
          std::any_of(kDefinitionFields.begin(), kDefinitionFields.end(), shownBy);

@@ -4,7 +4,7 @@
 #include "core/Text.h"
 #include "gamefiles/FileKinds.h"
 #include "languages/Sightings.h"
-#include "screen/HandlingFields.h"
+#include "screen/Fields.h"
 
 #include <algorithm>
 #include <array>
@@ -119,10 +119,10 @@ std::string NumbersIn(std::string_view text) {
 }
 
 void TextCheck::CheckRanges() {
-  for (const HandlingField& field : kHandlingFields) {
-    if (field.info == nullptr) continue;
-    const auto entry = static_cast<std::size_t>(field.infoLang);
-    const std::string needed = NumbersIn(field.infoCaption);
+  for (const FieldRow<Car>& field : kHandlingFields) {
+    if (field.hint.control == nullptr) continue;
+    const auto entry = static_cast<std::size_t>(field.hint.lang);
+    const std::string needed = NumbersIn(field.hint.design);
     if (NumbersIn(entries_[entry]) == needed) continue;
     Add(entry, "must name the numbers " + needed + " in this order, with decimal points");
   }

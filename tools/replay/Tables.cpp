@@ -1,16 +1,16 @@
 #include "replay/Tables.h"
 
 #include "core/CodePage.h"
+#include "formats/DefinitionFile.h"
+#include "formats/HandlingLine.h"
 #include "replay/ScriptError.h"
-#include "screen/DefinitionFields.h"
-#include "screen/HandlingFields.h"
 
 namespace wheelwright::replay {
 namespace {
 
 Json FieldsOf(const Car& car) {
   Json fields{{"LineKind", car.LineKind}};
-  for (const HandlingField& field : kHandlingFields) {
+  for (const HandlingToken& field : kHandlingTokens) {
     fields[field.name] = ToUnicode(car.*field.value);
   }
   return fields;
@@ -18,7 +18,7 @@ Json FieldsOf(const Car& car) {
 
 Json FieldsOf(const IdeEntry& entry) {
   Json fields = Json::object();
-  for (const DefinitionField& field : kDefinitionFields) {
+  for (const DefinitionValue& field : kDefinitionValues) {
     fields[field.name] = ToUnicode(entry.*field.value);
   }
   return fields;

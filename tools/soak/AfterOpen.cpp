@@ -12,7 +12,6 @@ namespace {
 
 using testing::PlainColors;
 using testing::PlainDefinitions;
-using testing::PlainHandling;
 
 // The rows name their messages as the languages of most sessions do.
 bool HasPlainMessages(const Vars& vars) {
@@ -45,17 +44,18 @@ void CheckReady(const Moment& moment, const FileKind& kind, std::vector<std::str
   Must(isOn, "a load leaves commands or tabs disabled");
 }
 
-void CheckHandling(const Moment& moment, const FileKind& kind, const PlainHandling& read) {
+void CheckHandling(const Moment& moment, const FileKind& kind, const ExpectedHandling& expected) {
+  const testing::PlainHandling& read = expected.read;
   if (read.failure != 0 || read.names.empty()) return CheckReset(moment);
   CheckReady(moment, kind, read.names);
   Must(moment.after.snapshot.cars == read.records, "Kopie_Cars isn't what stands in the file");
   Must(moment.after.author == read.author, "txtAuthor isn't what stands in the file");
   Must(moment.after.date == read.date, "txtDate isn't what stands in the file");
   if (HasPlainMessages(moment.session.vars))
-    Must(moment.session.error.lstErrors.Rows() == read.rows, "the load problems are others");
-  Tables expected = moment.before.working;
-  expected.cars = read.records;
-  CheckDisplay(moment, std::move(expected));
+    Must(moment.session.error.lstErrors.Rows() == expected.rows, "the load problems are others");
+  Tables tables = moment.before.working;
+  tables.cars = read.records;
+  CheckDisplay(moment, std::move(tables));
 }
 
 void CheckDefinitions(const Moment& moment, const FileKind& kind, const PlainDefinitions& read) {
@@ -97,7 +97,7 @@ std::string TextForReader(const Files& disk, const std::string& name) {
   return text + "\r\n";
 }
 
-void CheckOpen(const Moment& moment, const PlainHandling* handling) {
+void CheckOpen(const Moment& moment, const ExpectedHandling* handling) {
   if (moment.step.answers.empty() || !moment.step.answers.back().is_object())
     return CheckReset(moment);
   const Json& answer = moment.step.answers.back();

@@ -1,11 +1,9 @@
 // Every field of the table equals the box that shows it.
-#include "screen/DefinitionFields.h"
-#include "screen/HandlingFields.h"
+#include "screen/Fields.h"
 #include "soak/Moment.h"
 
 #include <cstddef>
 #include <string_view>
-#include <utility>
 
 namespace wheelwright::soak {
 namespace {
@@ -21,33 +19,33 @@ void CheckFlags(const FrmMain& main, const std::string& flags) {
   }
 }
 
-void CheckCodes(const FrmMain& main, const Car& car) {
-  for (const CodeList& list : kCodeLists) {
-    const std::string& code = car.*list.value;
-    const std::size_t place =
-        code.size() == 1 ? std::string_view(list.codes).find(code[0]) : std::string_view::npos;
-    if (place == std::string_view::npos) continue;
-    Must((main.*list.pick).Row() == static_cast<int>(place), "a pick list shows another code");
+// A code that stands for no entry leaves its list as it was.
+void CheckCode(const PickList& list, std::string_view codes, const std::string& code) {
+  const std::size_t place = code.size() == 1 ? codes.find(code[0]) : std::string_view::npos;
+  if (place == std::string_view::npos) return;
+  Must(list.Row() == static_cast<int>(place), list.Name() + " shows another code");
+}
+
+template <class Record>
+void CheckField(const FrmMain& main, const FieldRow<Record>& field, const Record& record) {
+  const std::string& value = record.*field.value;
+  if (const auto* const box = InputOf<TextBox>(main, field)) {
+    Must(box->Text() == value, box->Name() + " isn't what stands in its field");
+  } else if (const auto* const list = InputOf<PickList>(main, field)) {
+    if (!field.entries.codes.empty()) return CheckCode(*list, field.entries.codes, value);
+    Must(list->Text() == value, list->Name() + " isn't what stands in its field");
   }
 }
 
 void CheckHandling(const FrmMain& main, const Car& car) {
-  for (const HandlingField& field : kHandlingFields) {
-    if (field.text == nullptr) continue;
-    Must((main.*field.text).Text() == car.*field.value,
-         std::string(field.name) + " isn't what its box shows");
-  }
+  for (const FieldRow<Car>& field : kHandlingFields) CheckField(main, field, car);
   const int state = car.ABS == "1" ? 1 : car.ABS == "2" ? 2 : 0;
   Must(main.chkABS.State() == state, "chkABS shows another state than ABS " + car.ABS);
-  CheckCodes(main, car);
 }
 
 void CheckDefinition(const FrmMain& main, const IdeEntry& entry) {
-  for (const DefinitionField& field : kDefinitionFields) {
-    if (field.displayOrder == kByTypeRules) continue;
-    const std::string& shown =
-        field.text != nullptr ? (main.*field.text).Text() : std::as_const(main.*field.pick).Text();
-    Must(shown == entry.*field.value, std::string(field.name) + " isn't what its box shows");
+  for (std::size_t i = 0; i < kShownDefinitionFields; ++i) {
+    CheckField(main, kDefinitionFields[i], entry);
   }
   if (entry.Typ == "car") Must(main.txtExtra2.Text() == entry.Extra2, "txtExtra2 isn't Extra2");
   if (entry.Typ == "plane") Must(main.txtExtra1.Text() == entry.Extra1, "txtExtra1 isn't Extra1");

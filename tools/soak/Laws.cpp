@@ -1,6 +1,7 @@
 #include "soak/Laws.h"
 
 #include "replay/Names.h"
+#include "support/VehicleTokens.h"
 
 #include <set>
 #include <string>
@@ -129,7 +130,7 @@ void CheckWhatMayChange(const Step& step, const StepResult& result, const Held& 
   if (isEdited) Must(!after.isSaved, "IsSaved after an edit");
 }
 
-void CheckCommand(const Moment& moment, const testing::PlainHandling* handling) {
+void CheckCommand(const Moment& moment, const ExpectedHandling* handling) {
   const Step& step = moment.step;
   const bool isWell = !moment.result.ShowedError();
   if (step.Clicks("cmdOpen")) CheckOpen(moment, handling);
@@ -154,7 +155,8 @@ void Laws::Before(const Step& step) {
   expectedHandling_.reset();
   const std::string name = folder_.NameOf(step.File());
   if (step.Clicks("cmdOpen") && held_.disk.contains(name)) {
-    expectedHandling_ = testing::ReadPlainly(TextForReader(held_.disk, name), stage_.session.main);
+    const auto read = testing::ReadPlainly(TextForReader(held_.disk, name));
+    expectedHandling_ = {read, testing::RowsOf(read.problems, stage_.session.main)};
   }
 }
 

@@ -31,7 +31,7 @@ class Laws {
   replay::Stage& stage_;
   const Folder& folder_;
   Held held_;
-  std::optional<testing::PlainHandling> expectedHandling_;
+  std::optional<ExpectedHandling> expectedHandling_;
   Shown shown_;
 };
 

@@ -34,6 +34,12 @@ struct Shown {
   bool palette = false;
 };
 
+// What a handling file holds, and its problems in the captions from before it is opened.
+struct ExpectedHandling {
+  testing::PlainHandling read;
+  std::vector<ReportList::Row> rows;
+};
+
 struct Moment {
   const Step& step;
   const StepResult& result;
@@ -45,7 +51,7 @@ struct Moment {
 
 // After a click on cmdOpen that was not declined. `handling` is what the plain reader makes of the
 // chosen file, null if it is no handling file that is there.
-void CheckOpen(const Moment& moment, const testing::PlainHandling* handling);
+void CheckOpen(const Moment& moment, const ExpectedHandling* handling);
 // The chosen file as its reader finds it, with its line ends put right.
 std::string TextForReader(const Files& disk, const std::string& name);
 

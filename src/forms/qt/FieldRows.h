@@ -2,6 +2,10 @@
 #pragma once
 
 #include "forms/qt/MirrorSet.h"
+#include "screen/Fields.h"
+
+#include <algorithm>
+#include <vector>
 
 #include <QGridLayout>
 
@@ -39,5 +43,25 @@ class FieldRows {
   LabelMirror* label_ = nullptr;
   std::vector<QWidget*> inputs_;
 };
+
+// Builds the rows of a tab, from top to bottom.
+template <class Record, std::size_t Count>
+void BuildRows(FrmMain& main, const std::array<FieldRow<Record>, Count>& fields, int tab,
+               QWidget& page, MirrorSet& mirrors) {
+  std::vector<const FieldRow<Record>*> ofTab;
+  for (const FieldRow<Record>& field : fields) {
+    if (field.tab == tab) ofTab.push_back(&field);
+  }
+  std::sort(ofTab.begin(), ofTab.end(),
+            [](const auto* left, const auto* right) { return left->tabRow < right->tabRow; });
+  FieldRows rows(page, mirrors);
+  for (const FieldRow<Record>* field : ofTab) {
+    rows.StartRow(main.*field->label.control);
+    std::visit([&](auto input) { rows.AddInput(main.*input); }, field->input);
+    if (InputOf<TextBox>(main, *field) == &main.txtExtra1) rows.AddInput(main.cmbExtra1);
+    if (field->hint.control != nullptr) rows.AddInfo(main.*field->hint.control);
+  }
+  rows.Finish();
+}
 
 }  // namespace wheelwright

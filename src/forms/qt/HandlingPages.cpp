@@ -1,9 +1,5 @@
 #include "forms/qt/FieldRows.h"
 #include "forms/qt/Pages.h"
-#include "screen/HandlingFields.h"
-
-#include <algorithm>
-#include <vector>
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -11,28 +7,6 @@
 
 namespace wheelwright {
 namespace {
-
-std::vector<const HandlingField*> FieldsOf(HandlingTab tab) {
-  std::vector<const HandlingField*> fields;
-  for (const HandlingField& field : kHandlingFields) {
-    if (field.tab == tab && field.tabRow != kNoTabRow) fields.push_back(&field);
-  }
-  std::sort(fields.begin(), fields.end(),
-            [](const auto* left, const auto* right) { return left->tabRow < right->tabRow; });
-  return fields;
-}
-
-void BuildRows(FrmMain& main, HandlingTab tab, QWidget& page, MirrorSet& mirrors) {
-  FieldRows rows(page, mirrors);
-  for (const HandlingField* field : FieldsOf(tab)) {
-    rows.StartRow(main.*field->label);
-    if (field->text != nullptr) rows.AddInput(main.*field->text);
-    if (field->pick != nullptr) rows.AddInput(main.*field->pick);
-    if (field->tick != nullptr) rows.AddInput(main.*field->tick);
-    if (field->info != nullptr) rows.AddInfo(main.*field->info);
-  }
-  rows.Finish();
-}
 
 QFrame* Line(QWidget& page) {
   auto* line = new QFrame(&page);
@@ -92,7 +66,7 @@ void BuildMisc(FrmMain& main, QWidget& page, MirrorSet& mirrors) {
 void BuildHandlingPages(FrmMain& main, TabGroupMirror& group, MirrorSet& mirrors) {
   for (const HandlingTab tab :
        {kGeneralTab, kDimensionsTab, kDriveTab, kBrakesTab, kSuspensionTab}) {
-    BuildRows(main, tab, group.Page(tab), mirrors);
+    BuildRows(main, kHandlingFields, tab, group.Page(tab), mirrors);
   }
   BuildFlags(main, group.Page(kFlagsTab), mirrors);
   BuildPicturePage(group.Page(kPictureTab), main.picFrame, main.picCar, mirrors);

@@ -1,8 +1,7 @@
 // Every input has its name, its key and its turn.
 #include "forms/qt/ViewChecks.h"
 #include "replay/OnScreen.h"
-#include "screen/DefinitionFields.h"
-#include "screen/HandlingFields.h"
+#include "screen/Fields.h"
 
 #include <gtest/gtest.h>
 #include <map>
@@ -76,22 +75,22 @@ void ExpectRow(const View& view, const Control* input, const Label& label, const
   EXPECT_EQ(widget.accessibleDescription(), replay::AsRead(info->Caption())) << input->Name();
 }
 
+template <class Fields>
+void ExpectLabelledFields(const View& view, const Fields& fields) {
+  for (const auto& field : fields) {
+    const auto hint = field.hint.control;
+    const Label* const info = hint == nullptr ? nullptr : &(view.main.*hint);
+    const auto expect = [&](auto input) {
+      ExpectRow(view, &(view.main.*input), view.main.*field.label.control, info);
+    };
+    std::visit(expect, field.input);
+  }
+}
+
 void ExpectLabelledRows(const View& view) {
-  const FrmMain& main = view.main;
-  for (const HandlingField& field : kHandlingFields) {
-    if (field.label == nullptr) continue;
-    const Label& label = main.*field.label;
-    const Label* info = field.info == nullptr ? nullptr : &(main.*field.info);
-    if (field.text != nullptr) ExpectRow(view, &(main.*field.text), label, info);
-    if (field.pick != nullptr) ExpectRow(view, &(main.*field.pick), label, info);
-    if (field.tick != nullptr) ExpectRow(view, &(main.*field.tick), label, info);
-  }
-  for (const DefinitionField& field : kDefinitionFields) {
-    const Label* info = &(main.*field.info);
-    if (field.text != nullptr) ExpectRow(view, &(main.*field.text), main.*field.label, info);
-    if (field.pick != nullptr) ExpectRow(view, &(main.*field.pick), main.*field.label, info);
-  }
-  ExpectRow(view, &main.cmbExtra1, main.lblExtra1, &main.lblExtra1Info);
+  ExpectLabelledFields(view, kHandlingFields);
+  ExpectLabelledFields(view, kDefinitionFields);
+  ExpectRow(view, &view.main.cmbExtra1, view.main.lblExtra1, &view.main.lblExtra1Info);
 }
 
 // The letter behind a single "&"; nothing if there is none.

@@ -1,7 +1,6 @@
 // Sessions that never click.
 #include "forms/qt/Keyboard.h"
-#include "screen/DefinitionFields.h"
-#include "screen/HandlingFields.h"
+#include "screen/Fields.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -125,22 +124,24 @@ TEST_F(KeyboardTest, TheTabsTurnFromAnyFieldOnThem) {
 
 TEST_F(KeyboardTest, EveryTextBoxIsTypedInto) {
   OpenThreeVehicles();
-  for (const HandlingField& field : kHandlingFields) {
-    if (field.text == nullptr) continue;
+  for (const FieldRow<Car>& field : kHandlingFields) {
+    TextBox* const box = InputOf<TextBox>(main, field);
+    if (box == nullptr) continue;
     TurnTo(main.SSTab1, field.tab);
-    Overtype(main.*field.text, "7.5");
-    EXPECT_EQ(test.vars.Cars.At(test.vars.CurrentCar).*field.value, "7.5") << field.name;
+    Overtype(*box, "7.5");
+    EXPECT_EQ(test.vars.Cars.At(test.vars.CurrentCar).*field.value, "7.5") << box->Name();
   }
   EXPECT_EQ(Differences(), "");
 }
 
 TEST_F(KeyboardTest, EveryDefinitionIsTypedInto) {
   OpenDefinition();
-  for (const DefinitionField& field : kDefinitionFields) {
-    if (field.text == nullptr || !(main.*field.text).IsVisible()) continue;
+  for (const FieldRow<IdeEntry>& field : kDefinitionFields) {
+    TextBox* const box = InputOf<TextBox>(main, field);
+    if (box == nullptr || !box->IsVisible()) continue;
     TurnTo(main.SSTab2, field.tab);
-    Overtype(main.*field.text, "7");
-    EXPECT_EQ(test.vars.Ides.At(test.vars.CurrentIde).*field.value, "7") << field.name;
+    Overtype(*box, "7");
+    EXPECT_EQ(test.vars.Ides.At(test.vars.CurrentIde).*field.value, "7") << box->Name();
   }
 }
 

@@ -1,7 +1,6 @@
 // Nothing is cut off and nothing lies over something else.
 #include "forms/qt/ViewChecks.h"
-#include "screen/DefinitionFields.h"
-#include "screen/HandlingFields.h"
+#include "screen/Fields.h"
 
 #include <gtest/gtest.h>
 
@@ -115,9 +114,9 @@ template <class Fields, class Visitor>
 void ForTwoRows(const Fields& fields, const View& view, const Visitor& visit) {
   for (const auto& upper : fields) {
     for (const auto& lower : fields) {
-      if (upper.label == nullptr || lower.label == nullptr || upper.tab != lower.tab) continue;
-      const QWidget& above = view.Of(view.main.*upper.label);
-      const QWidget& below = view.Of(view.main.*lower.label);
+      if (upper.tab != lower.tab) continue;
+      const QWidget& above = view.Of(view.main.*upper.label.control);
+      const QWidget& below = view.Of(view.main.*lower.label.control);
       if (upper.tabRow >= lower.tabRow || !above.isVisible() || !below.isVisible()) continue;
       visit(above.geometry(), below.geometry(), lower.tabRow - upper.tabRow);
     }

@@ -1,0 +1,93 @@
+#include "exchange/Export.h"
+
+#include "formats/ExportFile.h"
+#include "gamefiles/FileKinds.h"
+#include "screen/Captions.h"
+
+#include <string>
+#include <vector>
+
+namespace wheelwright {
+namespace {
+
+// A dialog of its own, which keeps nothing from use to use.
+std::string ChooseTarget(Session& session) {
+  FileDialog dialog;
+  dialog.filter = FilterOfKind(session, kFileKinds[kHandlingFile]);
+  dialog.flags = FileDialog::kOverwritePrompt;
+  session.desktop.ShowSave(dialog);
+  return dialog.file;
+}
+
+WrittenVehicles ChosenVehicles(const Session& session) {
+  return {.names = session.exporter.lst2.Rows(),
+          .cars = session.vars.Cars,
+          .author = session.main.txtAuthor.Text(),
+          .created = session.main.txtDate.Text()};
+}
+
+using Writer = std::string (*)(const WrittenVehicles&);
+
+// One write of the whole; a failure among the vehicles leaves the file with what stands before
+// them.
+void WriteVehicles(Session& session, const std::string& before, Writer write) {
+  const std::string target = ChooseTarget(session);
+  std::string text;
+  try {
+    text = write(ChosenVehicles(session));
+  } catch (...) {
+    session.files.Write(target, before);
+    throw;
+  }
+  session.files.Write(target, text);
+}
+
+}  // namespace
+
+void OpenExportWindow(Session& session) {
+  FrmExport& window = session.exporter;
+  CaptionExportWindow(session);
+  window.lst1.Clear();
+  window.lst2.Clear();
+  window.lst1.AddRows(session.main.cmbAutos.Rows());
+  window.SetVisible(true);
+}
+
+void CaptionExportWindow(Session& session) {
+  ApplyCaptions(CaptionsOf(session.exporter), session.vars.Lang);
+}
+
+void MoveMarkedRows(MarkList& from, MarkList& to) {
+  std::vector<std::string> marked;
+  for (const int row : from.Marked()) marked.push_back(from.Rows()[static_cast<std::size_t>(row)]);
+  to.AddRows(marked);
+  from.RemoveMarked();
+}
+
+void MoveAllRows(MarkList& from, MarkList& to) {
+  to.AddRows(from.Rows());
+  from.Clear();
+}
+
+void UnloadExportWindow(Session& session) {
+  FrmExport& window = session.exporter;
+  window.SetVisible(false);
+  window.lst1.Clear();
+  window.lst2.Clear();
+}
+
+void ExportVehicles(Session& session) {
+  if (session.exporter.lst2.Count() == 0) return;
+  Guarded(session, [&] {
+    WriteVehicles(session, ExportHeader(ChosenVehicles(session)), WriteExport);
+    session.desktop.ShowInformation(Message(session, 113));
+    UnloadExportWindow(session);
+  });
+}
+
+void WriteTuningFile(Session& session) {
+  if (session.exporter.lst2.Count() == 0) return;
+  WriteVehicles(session, "", WriteTuningList);
+}
+
+}  // namespace wheelwright

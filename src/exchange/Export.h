@@ -1,0 +1,32 @@
+// The window in which the vehicles to export are chosen, and the files that it writes.
+#pragma once
+
+#include "screen/Session.h"
+
+namespace wheelwright {
+
+// cmdExportCar: puts every entry of cmbAutos into the left list and shows the window, which blocks
+// nothing. A window that is up is used again.
+void OpenExportWindow(Session& session);
+
+// Puts the texts of the language onto the window, each time it is loaded.
+void CaptionExportWindow(Session& session);
+
+// Move the marked rows, or all rows, from one list to the other. Both lists sort themselves.
+void MoveMarkedRows(MarkList& from, MarkList& to);
+void MoveAllRows(MarkList& from, MarkList& to);
+
+// The close button and the window's own close box. Nothing of the window stays.
+void UnloadExportWindow(Session& session);
+
+// cmdExport: writes the vehicles of the right list, in its order, to a file that the import can
+// read, and unloads the window. Nothing happens while the list is empty. Guarded; a failure leaves
+// the window up.
+void ExportVehicles(Session& session);
+
+// Spez: writes the suspension values of the vehicles of the right list as lines of assignments.
+// Nothing happens while the list is empty. Not guarded: even a cancelled dialog is a failure that
+// passes.
+void WriteTuningFile(Session& session);
+
+}  // namespace wheelwright

@@ -1,0 +1,132 @@
+#include "screen/Fields.h"
+
+namespace wheelwright {
+namespace {
+
+using M = FrmMain;
+
+constexpr std::array kDrives = {"Vorderradantrieb", "Hinterradantrieb", "4x4 Antrieb"};
+constexpr std::array kEngines = {"Benzin", "Diesel", "Elektro"};
+constexpr std::array kLights = {"Lang", "Klein", "Gross", "Lang/Gross"};
+
+}  // namespace
+
+// clang-format off
+const std::array<FieldRow<Car>, 32> kHandlingFields = {{
+    {.value = &Car::CarName, .input = &M::txtAutoname, .tab = kGeneralTab, .tabRow = 0,
+     .label = {&M::lblAutoname, "Autoname", 15}, .hint = {&M::lblAutonameInfo, "(Maximal 14 Buchstaben)", 16}},
+    {.value = &Car::Mass, .input = &M::txtGewicht, .tab = kGeneralTab, .tabRow = 1,
+     .label = {&M::lblGewicht, "Gewicht (kg)", 17}, .hint = {&M::lblGewichtInfo, "(1.0 bis 50000.0)", 18}},
+    {.value = &Car::DimensionX, .input = &M::txtBreite, .tab = kDimensionsTab, .tabRow = 0,
+     .label = {&M::lblBreite, "Breite (m)", 19}, .hint = {&M::lblBreiteInfo, "(0.0 > x > 20.0)", 20}},
+    {.value = &Car::DimensionY, .input = &M::txtHoehe, .tab = kDimensionsTab, .tabRow = 1,
+     .label = {&M::lblHoehe, "Höhe (m)", 21}, .hint = {&M::lblHoeheInfo, "(0.0 > x > 20.0)", 22}},
+    {.value = &Car::DimensionZ, .input = &M::txtLaenge, .tab = kDimensionsTab, .tabRow = 2,
+     .label = {&M::lblLaenge, "Länge (m)", 23}, .hint = {&M::lblLaengeInfo, "(0.0 > x > 20.0)", 24}},
+    {.value = &Car::CenterOfMassX, .input = &M::txtMassenmittelpX, .tab = kDimensionsTab, .tabRow = 3,
+     .label = {&M::lblMassenmittelpX, "Massenmittelp. X", 25},
+     .hint = {&M::lblMassenmittelpXInfo, "(-10.0 > x > 10.0)", 26}},
+    {.value = &Car::CenterOfMassY, .input = &M::txtMassenmittelpY, .tab = kDimensionsTab, .tabRow = 4,
+     .label = {&M::lblMassenmittelpY, "Massenmittelp. Y", 27},
+     .hint = {&M::lblMassenmittelpYInfo, "(-10.0 > x > 10.0)", 28}},
+    {.value = &Car::CenterOfMassZ, .input = &M::txtMassenmittelpZ, .tab = kDimensionsTab, .tabRow = 5,
+     .label = {&M::lblMassenmittelpZ, "Massenmittelp. Z", 29},
+     .hint = {&M::lblMassenmittelpZInfo, "(-10.0 > x > 10.0)", 30}},
+    {.value = &Car::PercentSubmerged, .input = &M::txtSubMerged, .tab = kDimensionsTab, .tabRow = 6,
+     .label = {&M::lblSubMerged, "Versinkt (%)", 31}, .hint = {&M::lblSubMergedInfo, "im Wasser (10 to 120)", 32}},
+    {.value = &Car::TractionMultiplier, .input = &M::txtTractionMulti, .tab = kDriveTab, .tabRow = 0,
+     .label = {&M::lblTractionMulti, "Zugkraft - Multipl.", 33},
+     .hint = {&M::lblTractionMultiInfo, "(0.5 bis 2.0)", 34}},
+    {.value = &Car::TractionLoss, .input = &M::txtTractionLoss, .tab = kDriveTab, .tabRow = 1,
+     .label = {&M::lblTractionLoss, "Zugkraft - Verlust", 35},
+     .hint = {&M::lblTractionLossInfo, "(0.0 > x > 1.0)", 36}},
+    {.value = &Car::TractionBias, .input = &M::txtTractionBias, .tab = kDriveTab, .tabRow = 2,
+     .label = {&M::lblTractionBias, "Zugkraft - Vorsp.", 37}, .hint = {&M::lblTractionBiasInfo, "(0.0 > x > 1.0)", 38}},
+    {.value = &Car::GearCount, .input = &M::txtGaenge, .tab = kDriveTab, .tabRow = 3,
+     .label = {&M::lblGaenge, "Anzahl Gänge", 39}, .hint = {&M::lblGaengeInfo, "(1 bis 5)", 40}},
+    {.value = &Car::MaxVelocity, .input = &M::txtGeschwindigkeit, .tab = kDriveTab, .tabRow = 4,
+     .label = {&M::lblGeschwindigkeit, "Geschw. (km/h)", 41},
+     .hint = {&M::lblGeschwindigkeitInfo, "(5.0 bis 150.0)", 42}},
+    {.value = &Car::EngineAcceleration, .input = &M::txtBeschleunigung, .tab = kDriveTab, .tabRow = 5,
+     .label = {&M::lblBeschleunigung, "Beschl. (m/s^2)", 43},
+     .hint = {&M::lblBeschleunigungInfo, "(0.1 bis 10.0)", 44}},
+    {.value = &Car::DriveType, .input = &M::cmbAntrieb, .tab = kDriveTab, .tabRow = 6,
+     .label = {&M::lblAntrieb, "Antrieb", 45}, .entries = {kDrives, 46, "FR4"}},
+    {.value = &Car::EngineType, .input = &M::cmbMotor, .tab = kDriveTab, .tabRow = 7,
+     .label = {&M::lblMotorTyp, "Motor-Typ", 49}, .entries = {kEngines, 50, "PDE"}},
+    {.value = &Car::BrakeDeceleration, .input = &M::txtBremsstaerke, .tab = kBrakesTab, .tabRow = 0,
+     .label = {&M::lblBremsstaerke, "Bremsstärke", 53}, .hint = {&M::lblBremsstaerkeInfo, "(0.1 bis 10.0)", 54}},
+    {.value = &Car::BrakeBias, .input = &M::txtBrakeBias, .tab = kBrakesTab, .tabRow = 1,
+     .label = {&M::lblBrakeBias, "Brake Bias", 55}, .hint = {&M::lblBrakeBiasInfo, "(0.0 bis 1.0)", 56}},
+    {.value = &Car::ABS, .input = &M::chkABS, .tab = kBrakesTab, .tabRow = 2,
+     .label = {&M::lblABS, "ABS", 57}},
+    {.value = &Car::SteeringLock, .input = &M::txtRadeinschlag, .tab = kSuspensionTab, .tabRow = 0,
+     .label = {&M::lblRadeinschlag, "Radeinschlag", 58}, .hint = {&M::lblRadeinschlagInfo, "(10.0 bis 40.0)", 59}},
+    {.value = &Car::SuspensionForceLevel, .input = &M::txtKraftlevel, .tab = kSuspensionTab, .tabRow = 1,
+     .label = {&M::lblKraftlevel, "Kraftlevel", 65}, .hint = {&M::lblKraftlevelInfo, "(>= 0.0)", 66}},
+    {.value = &Car::SuspensionDampingLevel, .input = &M::txtDLevel, .tab = kSuspensionTab, .tabRow = 2,
+     .label = {&M::lblDLevel, "Dämpfungslevel", 67}, .hint = {&M::lblDLevelInfo, "(>= 0.0)", 68}},
+    {.value = &Car::suspension_upper_limit, .input = &M::txtOLimit, .tab = kSuspensionTab, .tabRow = 3,
+     .label = {&M::lblOLimit, "Oberes Limit", 69}, .hint = {&M::lblOLimitInfo, "(-1.0 bis 1.0)", 70}},
+    {.value = &Car::suspension_lower_limit, .input = &M::txtULimit, .tab = kSuspensionTab, .tabRow = 4,
+     .label = {&M::lblULimit, "Unteres Limit", 71}, .hint = {&M::lblULimitInfo, "(-1.0 bis 1.0)", 72}},
+    {.value = &Car::SuspensionBias, .input = &M::txtBias, .tab = kSuspensionTab, .tabRow = 5,
+     .label = {&M::lblBias, "Bias between F/R", 73}, .hint = {&M::lblBiasInfo, "(-1.0 bis 1.0)", 74}},
+    {.value = &Car::SuspensionAntiDive, .input = &M::txtDive, .tab = kSuspensionTab, .tabRow = 6,
+     .isNamedInProblems = false,
+     .label = {&M::lblDive, "Anti-Tauch Multipl", 178}, .hint = {&M::lblDiveInfo, "(-1.0 bis 1.0)", 179}},
+    {.value = &Car::SeatOffset, .input = &M::txtPedSeat, .tab = kGeneralTab, .tabRow = 2,
+     .label = {&M::lblPedSeat, "Ped Seat Offset", 75}, .hint = {&M::lblPedSeatInfo, "(>= 0.0)", 76}},
+    {.value = &Car::CollisionDamageMultiplier, .input = &M::txtKoll, .tab = kGeneralTab, .tabRow = 3,
+     .label = {&M::lblKoll, "Koll.-Schaden-Multipl.", 77}, .hint = {&M::lblKollInfo, "(0.2 bis 5.0)", 78}},
+    {.value = &Car::MonetaryValue, .input = &M::txtPreis, .tab = kGeneralTab, .tabRow = 4,
+     .label = {&M::lblPreis, "Geldwert/Preis", 79}, .hint = {&M::lblPreisInfo, "(1 bis 100000)", 80}},
+    {.value = &Car::FrontLights, .input = &M::cmbFrontLichter, .tab = kGeneralTab, .tabRow = 5,
+     .label = {&M::lblFrontLichter, "Vorderlichter", 81}, .entries = {kLights, 82, "0123"}},
+    {.value = &Car::RearLights, .input = &M::cmbRearLichter, .tab = kGeneralTab, .tabRow = 6,
+     .label = {&M::lblRearLichter, "Hinterlichter", 86}, .entries = {kLights, 87, "0123"}},
+}};
+
+const std::array<FieldRow<IdeEntry>, 13> kDefinitionFields = {{
+    {.value = &IdeEntry::ID, .input = &M::txtID, .tab = kReferencesTab, .tabRow = 0,
+     .label = {&M::lblID, "ID", 125}, .hint = {&M::lblIDInfo, "ID in der default.ide", 126}},
+    {.value = &IdeEntry::HandlingID, .input = &M::txtHandlingID, .tab = kReferencesTab, .tabRow = 3,
+     .label = {&M::lblHandlingID, "Handling-ID", 127},
+     .hint = {&M::lblHandlingIDInfo, "Referenz zu handling.cfg", 128}},
+    {.value = &IdeEntry::ModelName, .input = &M::txtModelName, .tab = kReferencesTab, .tabRow = 1,
+     .label = {&M::lblModelName, "Model-Name", 129}, .hint = {&M::lblModelNameInfo, "Referenz zum 3D-Modell", 130}},
+    {.value = &IdeEntry::TXDName, .input = &M::txtTXDName, .tab = kReferencesTab, .tabRow = 2,
+     .label = {&M::lblTXDName, "TXD-Name", 131}, .hint = {&M::lblTXDNameInfo, "Referenz zur Textur", 132}},
+    {.value = &IdeEntry::GameName, .input = &M::txtGameName, .tab = kReferencesTab, .tabRow = 4,
+     .label = {&M::lblGameName, "Game-Name", 133}, .hint = {&M::lblGameNameInfo, "Referenz zum Namen im Spiel", 134}},
+    {.value = &IdeEntry::Typ, .input = &M::cmbTyp, .tab = kPropertiesTab, .tabRow = 0,
+     .label = {&M::lblTyp, "Typ", 135}, .hint = {&M::lblTypInfo, "Fahrzeugtyp", 136}, .entries = {kTypes}},
+    {.value = &IdeEntry::Anim, .input = &M::cmbAnim, .tab = kPropertiesTab, .tabRow = 1,
+     .label = {&M::lblAnim, "Anim", 180}, .hint = {&M::lblAnimInfo, "Animation", 181}, .entries = {kAnimations}},
+    {.value = &IdeEntry::Klasse, .input = &M::cmbKlasse, .tab = kPropertiesTab, .tabRow = 2,
+     .label = {&M::lblKlasse, "Klasse", 137}, .hint = {&M::lblKlasseInfo, "Wer fährt dieses Fahrzeug", 138},
+     .entries = {kClasses}},
+    {.value = &IdeEntry::Frequenz, .input = &M::txtFrequenz, .tab = kPropertiesTab, .tabRow = 3,
+     .label = {&M::lblFrequenz, "Frequenz", 139}, .hint = {&M::lblFrequenzInfo, "Häufigkeit des Auftretens", 140}},
+    {.value = &IdeEntry::Level, .input = &M::txtLevel, .tab = kPropertiesTab, .tabRow = 4,
+     .label = {&M::lblLevel, "Level", 141}, .hint = {&M::lblLevelInfo, "Unbekannt", 142}},
+    {.value = &IdeEntry::CompRules, .input = &M::txtCompRules, .tab = kPropertiesTab, .tabRow = 5,
+     .label = {&M::lblCompRules, "Comprules", 143}, .hint = {&M::lblCompRulesInfo, "Unbekannt", 144}},
+    {.value = &IdeEntry::Extra1, .input = &M::txtExtra1, .tab = kPropertiesTab, .tabRow = 6,
+     .label = {&M::lblExtra1, "Extra 1", 145}, .hint = {&M::lblExtra1Info, "Extra 1 Info", 146}},
+    {.value = &IdeEntry::Extra2, .input = &M::txtExtra2, .tab = kPropertiesTab, .tabRow = 7,
+     .label = {&M::lblExtra2, "Extra 2", 148}, .hint = {&M::lblExtra2Info, "Extra 2 Info", 149}},
+}};
+
+const std::array<const char*, kFlagCount> kFlagCaptions = {
+    "1G_BOOST", "2G_BOOST", "REV_BONNET", "HANGING_BOOT",
+    "NO_DOORS", "IS_VAN", "IS_BUS", "IS_LOW",
+    "DBL_EXHAUST", "TAILGATE_BOOT", "NOSWING_BOOT", "NONPLAYER_STABILISER",
+    "NEUTRALHANDLING", "HAS_NO_ROOF", "IS_BIG", "HALOGEN_LIGHTS",
+    "IS_BIKE", "IS_HELI", "IS_PLANE", "IS_BOAT",
+    "NO_EXHAUST", "REARWHEEL_1ST", "HANDBRAKE_TYRE", "SIT_IN_BOAT",
+    "FAT_REARW", "NARROW_FRONTW", "GOOD_INSAND", "Undefined",
+};
+// clang-format on
+
+}  // namespace wheelwright
