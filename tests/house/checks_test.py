@@ -42,6 +42,13 @@ class Includes(Tree):
             ["src/forms/A.cpp:3: forms/qt/B.h reaches down from forms into forms/qt"],
             self.faults("src/forms/A.cpp", '"forms/qt/B.h"'))
 
+    def test_the_rooms_of_the_windows_have_an_order_too(self):
+        self.assertEqual([], self.faults("src/forms/qt/layout/A.h", '"forms/qt/mirrors/B.h"'))
+        self.assertEqual([], self.faults("src/forms/qt/A.cpp", '"forms/qt/layout/B.h"'))
+        self.assertEqual(["src/forms/qt/widgets/A.h:3: forms/qt/mirrors/B.h reaches down from "
+                          "forms/qt/widgets into forms/qt/mirrors"],
+                         self.faults("src/forms/qt/widgets/A.h", '"forms/qt/mirrors/B.h"'))
+
     def test_an_include_shows_its_layer(self):
         self.assertEqual(["src/core/A.cpp:3: A.h names no layer"],
                          self.faults("src/core/A.cpp", '"A.h"'))

@@ -12,7 +12,8 @@ import re
 import sys
 
 LAYERS = ["core", "core/posix", "core/windows", "screen", "gamefiles", "editor", "catalogue",
-          "exchange", "language", "forms", "forms/qt"]
+          "exchange", "language", "forms", "forms/qt/widgets", "forms/qt/system",
+          "forms/qt/mirrors", "forms/qt/layout", "forms/qt"]
 TOOLKIT_FOLDERS = ["src/forms/qt", "src/main.cpp", "tools", "tests/forms/qt", "tests/program"]
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
