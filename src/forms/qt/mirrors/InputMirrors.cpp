@@ -74,7 +74,7 @@ void TextBoxMirror::Follow(Aspect aspect) {
   const QString text = Shown(plain_.Text());
   if (aspect != Aspect::Content || widget_.text() == text) return;
   const QSignalBlocker blocker(widget_);
-  const std::string before = InCodePage(widget_.text().left(widget_.cursorPosition()));
+  const QString before = Shown(InCodePage(widget_.text().left(widget_.cursorPosition())));
   widget_.setText(text);
   widget_.setCursorPosition(isBeingEdited_ ? static_cast<int>(before.size()) : 0);
 }
