@@ -2,7 +2,7 @@
 #include "core/DiskFiles.h"
 #include "core/windows/Failures.h"
 #include "core/windows/Path.h"
-#include "core/windows/Text.h"
+#include "core/windows/WideText.h"
 #include "core/windows/WholeFile.h"
 
 #include <algorithm>

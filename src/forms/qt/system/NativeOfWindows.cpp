@@ -2,7 +2,7 @@
 // and its shell. The toolkit's way to it would put the filter's ending behind every name that lacks
 // it.
 #include "core/Failure.h"
-#include "core/windows/Text.h"
+#include "core/windows/WideText.h"
 #include "forms/qt/system/Native.h"
 
 #include <algorithm>

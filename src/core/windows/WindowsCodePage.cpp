@@ -1,7 +1,7 @@
-#include "core/windows/CodePage.h"
+#include "core/windows/WindowsCodePage.h"
 
 #include "core/Utf8.h"
-#include "core/windows/Text.h"
+#include "core/windows/WideText.h"
 
 #include <windows.h>
 

@@ -1,4 +1,4 @@
-#include "core/windows/Text.h"
+#include "core/windows/WideText.h"
 
 #include <windows.h>
 
