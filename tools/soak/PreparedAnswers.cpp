@@ -1,4 +1,4 @@
-#include "soak/Questioning.h"
+#include "soak/PreparedAnswers.h"
 
 #include "core/Failure.h"
 #include "core/Numbers.h"

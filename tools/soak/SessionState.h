@@ -19,7 +19,7 @@ struct Tables {
   bool operator==(const Tables&) const = default;
 };
 
-struct Held {
+struct SessionState {
   Tables working;
   Tables snapshot;
   std::string file;
@@ -33,7 +33,7 @@ struct Held {
 };
 
 // `disk` is what the folder holds.
-Held HeldBy(const Session& session, Files disk);
+SessionState StateOf(const Session& session, Files disk);
 
 // The records of a table, none while it is unallocated.
 template <class Record>

@@ -1,4 +1,4 @@
-#include "soak/Held.h"
+#include "soak/SessionState.h"
 
 #include "core/Text.h"
 
@@ -7,9 +7,9 @@
 
 namespace wheelwright::soak {
 
-Held HeldBy(const Session& session, Files disk) {
+SessionState StateOf(const Session& session, Files disk) {
   const Vars& vars = session.vars;
-  Held held;
+  SessionState held;
   held.working = {RecordsIn(vars.Cars), RecordsIn(vars.Ides), RecordsIn(vars.Colors),
                   RecordsIn(vars.CarColors)};
   held.snapshot = {RecordsIn(vars.Kopie_Cars), RecordsIn(vars.Kopie_Ides),

@@ -15,7 +15,7 @@ bool IsWritable(const Moment& moment, const std::string& name) {
 
 // The disk after a save into the target, of tables that are there.
 Files ExpectedDisk(const Moment& moment, const std::string& template_, const std::string& target) {
-  const Held& before = moment.before;
+  const SessionState& before = moment.before;
   const Tables& tables = before.working;
   Files disk = before.disk;
   if (before.fileType == kHandlingFile) {
@@ -31,14 +31,14 @@ Files ExpectedDisk(const Moment& moment, const std::string& template_, const std
   return disk;
 }
 
-bool HasTables(const Held& held) {
+bool HasTables(const SessionState& held) {
   if (held.fileType == kHandlingFile) return !held.working.cars.empty();
   if (held.fileType == kDefinitionFile) return !held.working.ides.empty();
   return !held.working.colors.empty() && !held.working.carColors.empty();
 }
 
 void CheckSnapshots(const Moment& moment) {
-  const Held& after = moment.after;
+  const SessionState& after = moment.after;
   Tables expected = moment.before.snapshot;
   if (after.fileType == kHandlingFile) expected.cars = after.working.cars;
   if (after.fileType == kDefinitionFile) expected.ides = after.working.ides;
@@ -52,8 +52,8 @@ void CheckSnapshots(const Moment& moment) {
 }  // namespace
 
 void CheckSave(const Moment& moment) {
-  const Held& before = moment.before;
-  const Held& after = moment.after;
+  const SessionState& before = moment.before;
+  const SessionState& after = moment.after;
   const bool isSaveAs = moment.step.Clicks("cmdSaveAs");
   const std::string source = moment.folder.NameOf(before.file);
   const std::string target = isSaveAs ? moment.folder.NameOf(moment.step.File()) : source;
@@ -77,7 +77,7 @@ void CheckSave(const Moment& moment) {
 }
 
 void CheckBackup(const Moment& moment) {
-  const Held& before = moment.before;
+  const SessionState& before = moment.before;
   Files expected = before.disk;
   const std::string source = moment.folder.NameOf(before.file);
   if (before.disk.contains(source)) expected[source + ".backup"] = before.disk.at(source);

@@ -81,7 +81,7 @@ void CheckDisplay(const Moment& moment, Tables expected) {
 }
 
 void CheckRevert(const Moment& moment) {
-  const Held& after = moment.after;
+  const SessionState& after = moment.after;
   Tables expected = moment.before.working;
   const Tables& snapshot = moment.before.snapshot;
   if (after.fileType == kHandlingFile) expected.cars = snapshot.cars;

@@ -1,4 +1,4 @@
-#include "soak/Reached.h"
+#include "soak/RandomActions.h"
 
 #include "replay/Names.h"
 #include "screen/Controls.h"

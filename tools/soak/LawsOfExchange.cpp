@@ -93,7 +93,7 @@ void CheckImport(const Moment& moment) {
 }
 
 void CheckExport(const Moment& moment) {
-  const Held& before = moment.before;
+  const SessionState& before = moment.before;
   const std::string vehiclesAndEnd =
       testing::WritePlainly("x\r", before.exported, before.working.cars, "", "");
   const auto banner = vehiclesAndEnd.find('\n', vehiclesAndEnd.find('\n') + 1) + 1;
