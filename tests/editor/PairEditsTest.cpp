@@ -1,4 +1,4 @@
-#include "catalogue/PairEdits.h"
+#include "editor/ColorPairs.h"
 #include "support/TableTexts.h"
 #include "support/TestSession.h"
 #include "support/Thrown.h"
