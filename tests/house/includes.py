@@ -2,7 +2,7 @@
 """Holds the includes to the order of the layers.
 
 A source of src includes only from folders that stand higher in LAYERS than its own, or from its own.
-The toolkit's headers stay in the folders named in TOOLKIT_FOLDERS.
+The toolkit's headers stay in the folders named in TOOLKIT_FOLDERS. No two headers have one name.
 
 usage: includes.py [SOURCE_TREE]
 """
@@ -59,6 +59,7 @@ def fault_of(source, quoted, header):
 
 
 def faults_in(tree):
+    headers = {}
     for folder in ("src", "tests", "tools"):
         for file in sorted((tree / folder).rglob("*")):
             if file.suffix not in (".h", ".cpp"):
@@ -66,6 +67,8 @@ def faults_in(tree):
             source = file.relative_to(tree).as_posix()
             if folder == "src" and source != "src/main.cpp" and layer_of(source[4:]) is None:
                 yield f"{source}: lies in no layer"
+            if file.suffix == ".h" and headers.setdefault(file.name, source) != source:
+                yield f"{source}: has the name of {headers[file.name]}"
             for number, quoted, header in includes_of(file):
                 fault = fault_of(source, quoted, header)
                 if fault:

@@ -4,7 +4,7 @@
 #include "support/DefinitionReference.h"
 #include "support/Generators.h"
 #include "support/HandlingReference.h"
-#include "support/Records.h"
+#include "support/TableRecords.h"
 #include "support/TableTexts.h"
 #include "support/TestSession.h"
 

@@ -4,7 +4,7 @@
 #include "gamefiles/HandlingWriter.h"
 #include "support/Generators.h"
 #include "support/HandlingReference.h"
-#include "support/Records.h"
+#include "support/TableRecords.h"
 #include "support/TestSession.h"
 #include "support/Thrown.h"
 #include "support/VehicleTokens.h"

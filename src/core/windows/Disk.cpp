@@ -3,7 +3,7 @@
 #include "core/windows/Failures.h"
 #include "core/windows/Path.h"
 #include "core/windows/WideText.h"
-#include "core/windows/WholeFile.h"
+#include "core/windows/WholeFileOfWindows.h"
 
 #include <algorithm>
 #include <vector>

@@ -1,4 +1,4 @@
-#include "core/windows/WholeFile.h"
+#include "core/windows/WholeFileOfWindows.h"
 
 #include "core/windows/Failures.h"
 
