@@ -1,7 +1,6 @@
 // The program: the application of the toolkit, and what runs in it.
 #include "core/DiskFiles.h"
 #include "forms/qt/Program.h"
-#include "forms/qt/ProgramIcon.h"
 
 #include <clocale>
 #include <cstdio>

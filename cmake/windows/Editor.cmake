@@ -12,4 +12,4 @@ set_source_files_properties(
     OBJECT_DEPENDS
     "${PROJECT_SOURCE_DIR}/packaging/wheelwright.ico;${CMAKE_CURRENT_BINARY_DIR}/wheelwright.manifest")
 target_sources(wheelwright PRIVATE ${RESOURCES})
-set_target_properties(wheelwright PROPERTIES WIN32_EXECUTABLE ON SYSTEM_CODE_PAGE ON)
+set_target_properties(wheelwright PROPERTIES WIN32_EXECUTABLE ON CODE_PAGE wheelwright-system-code-page)

@@ -1,5 +1,7 @@
 #include "editor/ShowVehicle.h"
 
+#include "editor/ColorPairs.h"
+
 #include <array>
 #include <string>
 

@@ -1,8 +1,8 @@
 #include "forms/Wiring.h"
 
-#include "catalogue/PairEdits.h"
 #include "catalogue/Palette.h"
 #include "catalogue/Vehicles.h"
+#include "editor/ColorPairs.h"
 #include "editor/ModelFlags.h"
 #include "editor/ShowVehicle.h"
 #include "editor/TypeRules.h"

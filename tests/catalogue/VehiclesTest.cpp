@@ -1,6 +1,6 @@
 #include "catalogue/Vehicles.h"
 #include "support/Exchange.h"
-#include "support/Records.h"
+#include "support/TableRecords.h"
 #include "support/TestSession.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // A vehicle of the handling file on screen.
 #include "editor/ShowVehicle.h"
 #include "support/HeldTables.h"
-#include "support/Records.h"
+#include "support/TableRecords.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "exchange/Export.h"
 #include "support/Exchange.h"
-#include "support/Records.h"
+#include "support/TableRecords.h"
 
 #include <gtest/gtest.h>
 #include <string>

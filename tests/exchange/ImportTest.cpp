@@ -2,7 +2,7 @@
 #include "core/Failure.h"
 #include "exchange/Import.h"
 #include "support/Exchange.h"
-#include "support/Records.h"
+#include "support/TableRecords.h"
 
 #include <gtest/gtest.h>
 #include <string>

@@ -1,7 +1,7 @@
 #include "core/Failure.h"
 #include "exchange/Export.h"
 #include "support/Exchange.h"
-#include "support/Records.h"
+#include "support/TableRecords.h"
 
 #include <gtest/gtest.h>
 #include <optional>

@@ -1,6 +1,6 @@
 #include "core/Failure.h"
 #include "gamefiles/BackupRevert.h"
-#include "support/Records.h"
+#include "support/TableRecords.h"
 #include "support/TestSession.h"
 
 #include <array>

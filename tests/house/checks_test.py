@@ -50,11 +50,23 @@ class Includes(Tree):
             ["src/forms/A.cpp:3: forms/qt/B.h reaches down from forms into forms/qt"],
             self.faults("src/forms/A.cpp", '"forms/qt/B.h"'))
 
+    def test_the_rooms_of_the_windows_have_an_order_too(self):
+        self.assertEqual([], self.faults("src/forms/qt/layout/A.h", '"forms/qt/mirrors/B.h"'))
+        self.assertEqual([], self.faults("src/forms/qt/A.cpp", '"forms/qt/layout/B.h"'))
+        self.assertEqual(["src/forms/qt/widgets/C.h:3: forms/qt/mirrors/B.h reaches down from "
+                          "forms/qt/widgets into forms/qt/mirrors"],
+                         self.faults("src/forms/qt/widgets/C.h", '"forms/qt/mirrors/B.h"'))
+
     def test_an_include_shows_its_layer(self):
         self.assertEqual(["src/core/A.cpp:3: A.h names no layer"],
                          self.faults("src/core/A.cpp", '"A.h"'))
         self.assertIn("src/core/B.cpp:3: ../core/B.h names no layer",
                       self.faults("src/core/B.cpp", '"../core/B.h"'))
+
+    def test_a_header_has_a_name_of_its_own(self):
+        self.assertEqual([], self.faults("src/core/A.h", "<string>"))
+        self.assertEqual(["tools/soak/A.h: has the name of src/core/A.h"],
+                         self.faults("tools/soak/A.h", "<string>"))
 
     def test_a_source_lies_in_a_layer(self):
         self.assertEqual(["src/A.cpp: lies in no layer"], self.faults("src/A.cpp", "<string>"))

@@ -2,8 +2,8 @@
 """Holds the includes to the order of the layers.
 
 A source of src includes only from folders that stand higher in LAYERS than its own, or from its own;
-never from the one that STRANGERS names for its own.
-The toolkit's headers stay in the folders named in TOOLKIT_FOLDERS.
+never from the one that STRANGERS names for its own. The toolkit's headers stay in the folders named in
+TOOLKIT_FOLDERS. No two headers have one name.
 
 usage: includes.py [SOURCE_TREE]
 """
@@ -13,7 +13,8 @@ import re
 import sys
 
 LAYERS = ["core", "core/posix", "core/windows", "formats", "screen", "gamefiles", "editor",
-          "catalogue", "exchange", "language", "forms", "forms/qt"]
+          "catalogue", "exchange", "language", "forms", "forms/qt/widgets", "forms/qt/system",
+          "forms/qt/mirrors", "forms/qt/layout", "forms/qt"]
 STRANGERS = {"screen": "formats"}
 TOOLKIT_FOLDERS = ["src/forms/qt", "src/main.cpp", "tools", "tests/forms/qt", "tests/program"]
 
@@ -62,6 +63,7 @@ def fault_of(source, quoted, header):
 
 
 def faults_in(tree):
+    headers = {}
     for folder in ("src", "tests", "tools"):
         for file in sorted((tree / folder).rglob("*")):
             if file.suffix not in (".h", ".cpp"):
@@ -69,6 +71,8 @@ def faults_in(tree):
             source = file.relative_to(tree).as_posix()
             if folder == "src" and source != "src/main.cpp" and layer_of(source[4:]) is None:
                 yield f"{source}: lies in no layer"
+            if file.suffix == ".h" and headers.setdefault(file.name, source) != source:
+                yield f"{source}: has the name of {headers[file.name]}"
             for number, quoted, header in includes_of(file):
                 fault = fault_of(source, quoted, header)
                 if fault:

@@ -1,6 +1,6 @@
 // Which entry of the language table stands where on screen.
 #include "language/ApplyLanguage.h"
-#include "support/Records.h"
+#include "support/TableRecords.h"
 #include "support/TestSession.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // Finding, choosing and reading the language files beside the program.
 #include "language/LanguageFiles.h"
 #include "support/HeldTables.h"
-#include "support/Records.h"
+#include "support/TableRecords.h"
 #include "support/Thrown.h"
 
 #include <gtest/gtest.h>

@@ -5,7 +5,7 @@
 #include "support/DefinitionReference.h"
 #include "support/Generators.h"
 #include "support/HandlingReference.h"
-#include "support/Records.h"
+#include "support/TableRecords.h"
 #include "support/TableTexts.h"
 #include "support/Thrown.h"
 

@@ -3,7 +3,7 @@
 #include "support/Exchange.h"
 #include "support/Generators.h"
 #include "support/ImportReference.h"
-#include "support/Records.h"
+#include "support/TableRecords.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>

@@ -3,7 +3,7 @@
 #include "formats/HandlingFile.h"
 #include "support/Generators.h"
 #include "support/HandlingReference.h"
-#include "support/Records.h"
+#include "support/TableRecords.h"
 #include "support/Thrown.h"
 #include "support/VehicleTokens.h"
 

@@ -3,7 +3,7 @@
 #include "support/ColorReference.h"
 #include "support/Generators.h"
 #include "support/PaletteModel.h"
-#include "support/Records.h"
+#include "support/TableRecords.h"
 #include "support/TableTexts.h"
 #include "support/TestSession.h"
 #include "support/Thrown.h"

@@ -1,7 +1,7 @@
 #include "fuzz/VehicleRows.h"
 
 #include "fuzz/FuzzInput.h"
-#include "support/Records.h"
+#include "support/TableRecords.h"
 #include "support/VehicleTokens.h"
 
 namespace wheelwright::fuzz {

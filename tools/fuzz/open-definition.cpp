@@ -3,7 +3,7 @@
 #include "fuzz/OpenLaws.h"
 #include "fuzz/SaveLaws.h"
 #include "support/DefinitionReference.h"
-#include "support/Records.h"
+#include "support/TableRecords.h"
 #include "support/TestSession.h"
 
 #include <algorithm>

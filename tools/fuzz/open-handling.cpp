@@ -4,7 +4,7 @@
 #include "fuzz/OpenLaws.h"
 #include "fuzz/SaveLaws.h"
 #include "support/HandlingReference.h"
-#include "support/Records.h"
+#include "support/TableRecords.h"
 #include "support/TestSession.h"
 #include "support/VehicleTokens.h"
 

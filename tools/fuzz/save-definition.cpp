@@ -5,7 +5,7 @@
 #include "fuzz/SaveLaws.h"
 #include "gamefiles/SaveFile.h"
 #include "support/DefinitionReference.h"
-#include "support/Records.h"
+#include "support/TableRecords.h"
 #include "support/TableTexts.h"
 #include "support/TestSession.h"
 

@@ -6,7 +6,7 @@
 #include "fuzz/VehicleRows.h"
 #include "gamefiles/SaveFile.h"
 #include "support/HandlingReference.h"
-#include "support/Records.h"
+#include "support/TableRecords.h"
 #include "support/TableTexts.h"
 #include "support/TestSession.h"
 

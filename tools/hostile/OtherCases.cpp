@@ -5,7 +5,7 @@
 #include <string>
 
 #ifdef WHEELWRIGHT_REAL_WINDOWS
-#include "forms/qt/PictureFile.h"
+#include "forms/qt/widgets/Pictures.h"
 #endif
 
 namespace wheelwright::hostile {

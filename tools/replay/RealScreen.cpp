@@ -1,6 +1,6 @@
 #include "replay/RealScreen.h"
 
-#include "forms/qt/PictureFile.h"
+#include "forms/qt/widgets/Pictures.h"
 
 #include <optional>
 #include <string>

@@ -1,7 +1,7 @@
 // A session with the real windows, each action through the real widget.
 #pragma once
 
-#include "forms/qt/WindowSet.h"
+#include "forms/qt/layout/WindowSet.h"
 #include "replay/Stage.h"
 #include "replay/WidgetHands.h"
 

@@ -1,6 +1,6 @@
 #include "replay/WidgetHands.h"
 
-#include "forms/qt/RowView.h"
+#include "forms/qt/mirrors/Rows.h"
 #include "replay/OnScreen.h"
 #include "replay/SentEvents.h"
 

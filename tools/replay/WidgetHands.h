@@ -1,7 +1,7 @@
 // Hands that go through the real widgets, with the events that a keyboard and a mouse would send.
 #pragma once
 
-#include "forms/qt/WindowSet.h"
+#include "forms/qt/layout/WindowSet.h"
 #include "replay/Hands.h"
 
 #include <QAbstractItemView>

@@ -98,7 +98,8 @@ void CheckEnd(Session& session, const Step& step, const StepResult& result, cons
   }
 }
 
-void CheckNothingHappened(const Held& before, const Held& after, const std::string& what) {
+void CheckNothingHappened(const SessionState& before, const SessionState& after,
+                          const std::string& what) {
   Must(after.working == before.working, what + " has changed the tables");
   Must(after.snapshot == before.snapshot, what + " has changed the snapshots");
   Must(after.isSaved == before.isSaved, what + " has changed IsSaved");
@@ -106,8 +107,8 @@ void CheckNothingHappened(const Held& before, const Held& after, const std::stri
   Must(after.disk == before.disk, what + " has changed the disk");
 }
 
-void CheckWhatMayChange(const Step& step, const StepResult& result, const Held& before,
-                        const Held& after) {
+void CheckWhatMayChange(const Step& step, const StepResult& result, const SessionState& before,
+                        const SessionState& after) {
   const bool opens = step.control == "cmdOpen";
   const bool saves = step.control == "cmdSave" || step.control == "cmdSaveAs";
   if (!opens && !saves) {
@@ -149,7 +150,7 @@ void CheckCommand(const Moment& moment, const ExpectedHandling* handling) {
 }  // namespace
 
 Laws::Laws(replay::Stage& stage, const Folder& folder)
-    : stage_(stage), folder_(folder), held_(HeldBy(stage.session, folder.Contents())) {}
+    : stage_(stage), folder_(folder), held_(StateOf(stage.session, folder.Contents())) {}
 
 void Laws::Before(const Step& step) {
   expectedHandling_.reset();
@@ -166,7 +167,7 @@ void Laws::After(const Step& step, const StepResult& result) {
   if (!result.End().empty()) return CheckEnd(stage_.session, step, result, shown_);
   Must(stage_.desktop.CurrentPointer() == Pointer::Normal, "the hourglass stays");
   const bool reachesDisk = kReachingTheDisk.contains(step.control) && !result.WasRefused();
-  Held after = HeldBy(stage_.session, reachesDisk ? folder_.Contents() : held_.disk);
+  SessionState after = StateOf(stage_.session, reachesDisk ? folder_.Contents() : held_.disk);
   const Moment moment{step, result, held_, after, stage_.session, folder_};
   if (result.WasRefused()) {
     CheckNothingHappened(held_, after, "a refused action");

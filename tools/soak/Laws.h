@@ -3,8 +3,8 @@
 
 #include "replay/Stage.h"
 #include "soak/Folder.h"
-#include "soak/Held.h"
 #include "soak/Moment.h"
+#include "soak/SessionState.h"
 #include "soak/Step.h"
 #include "soak/StepResult.h"
 #include "support/HandlingReference.h"
@@ -30,7 +30,7 @@ class Laws {
 
   replay::Stage& stage_;
   const Folder& folder_;
-  Held held_;
+  SessionState held_;
   std::optional<ExpectedHandling> expectedHandling_;
   Shown shown_;
 };

@@ -3,7 +3,7 @@
 
 #include "screen/Session.h"
 #include "soak/Folder.h"
-#include "soak/Held.h"
+#include "soak/SessionState.h"
 #include "soak/Step.h"
 #include "soak/StepResult.h"
 #include "support/HandlingReference.h"
@@ -43,8 +43,8 @@ struct ExpectedHandling {
 struct Moment {
   const Step& step;
   const StepResult& result;
-  const Held& before;
-  const Held& after;
+  const SessionState& before;
+  const SessionState& after;
   const Session& session;
   const Folder& folder;
 };

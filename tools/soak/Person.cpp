@@ -1,7 +1,7 @@
 #include "soak/Person.h"
 
-#include "soak/Questioning.h"
-#include "soak/Reached.h"
+#include "soak/PreparedAnswers.h"
+#include "soak/RandomActions.h"
 
 #include <optional>
 #include <vector>

@@ -1,14 +1,21 @@
 // Random sessions, one after the other.
 #pragma once
 
-#include "soak/Options.h"
 #include "soak/PlainSession.h"
 
+#include <cstdint>
 #include <functional>
 #include <ostream>
 #include <string>
 
 namespace wheelwright::soak {
+
+struct Options {
+  bool onWidgets = false;
+  double seconds = 0;  // at least one session is played
+  std::uint64_t seed = 0;
+  std::string findings;  // the directory for sessions in which something was wrong
+};
 
 // Plays a recording once more and tells what came out otherwise; empty if nothing did.
 using SecondPlay = std::function<std::string(const Recording&, const Folder&)>;

@@ -1,6 +1,6 @@
-#include "soak/Options.h"
 #include "soak/Soak.h"
 
+#include <exception>
 #include <iostream>
 #include <optional>
 #include <string>
@@ -16,6 +16,28 @@ namespace {
 
 constexpr int kFound = 1;
 constexpr int kNotUnderstood = 2;
+
+constexpr const char* kUsage =
+    "usage: wheelwright-soak plain|widgets SECONDS SEED FINDINGS\n"
+    "\n"
+    "Plays random sessions, the first with the seed, each further one with the next number. With\n"
+    "\"widgets\" each is played on the plain controls and then on the real windows.\n";
+
+// Nothing for a command line that can't be understood.
+std::optional<Options> OptionsFrom(const std::vector<std::string>& arguments) {
+  if (arguments.size() != 4) return std::nullopt;
+  Options options;
+  options.onWidgets = arguments[0] == "widgets";
+  if (!options.onWidgets && arguments[0] != "plain") return std::nullopt;
+  try {
+    options.seconds = std::stod(arguments[1]);
+    options.seed = std::stoull(arguments[2]);
+  } catch (const std::exception&) {
+    return std::nullopt;
+  }
+  options.findings = arguments[3];
+  return options;
+}
 
 int SoakOnWidgets(const Options& options) {
 #ifdef WHEELWRIGHT_REAL_WINDOWS

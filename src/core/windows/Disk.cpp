@@ -2,8 +2,8 @@
 #include "core/DiskFiles.h"
 #include "core/windows/Failures.h"
 #include "core/windows/Path.h"
-#include "core/windows/Text.h"
-#include "core/windows/WholeFile.h"
+#include "core/windows/WholeFileOfWindows.h"
+#include "core/windows/WideText.h"
 
 #include <algorithm>
 #include <vector>

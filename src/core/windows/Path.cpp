@@ -1,6 +1,6 @@
 #include "core/windows/Path.h"
 
-#include "core/windows/Text.h"
+#include "core/windows/WideText.h"
 
 #include <windows.h>
 

@@ -1,6 +1,6 @@
 // The code page that Windows has been set to.
 #include "core/CodePage.h"
-#include "core/windows/CodePage.h"
+#include "core/windows/WindowsCodePage.h"
 
 #include <windows.h>
 

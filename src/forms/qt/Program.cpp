@@ -3,10 +3,10 @@
 #include "core/DiskFiles.h"
 #include "forms/Lifecycle.h"
 #include "forms/Wiring.h"
-#include "forms/qt/QtDesktop.h"
-#include "forms/qt/QtEdge.h"
-#include "forms/qt/QtSettings.h"
-#include "forms/qt/WindowSet.h"
+#include "forms/qt/layout/WindowSet.h"
+#include "forms/qt/system/QtDesktop.h"
+#include "forms/qt/system/QtEdge.h"
+#include "forms/qt/system/QtSettings.h"
 #include "screen/Session.h"
 
 #include <string>
@@ -22,6 +22,13 @@ std::string ProgramDirectory() {
 }
 
 }  // namespace
+
+QIcon ProgramIcon() {
+  QIcon icon;
+  for (const int size : {16, 24, 32, 48, 64, 128, 256})
+    icon.addFile(QString(":/icons/wheelwright-%1.png").arg(size));
+  return icon;
+}
 
 int RunProgram() {
   DiskFiles files;

@@ -1,5 +1,5 @@
 #include "core/DiskFiles.h"
-#include "core/windows/Text.h"
+#include "core/windows/WideText.h"
 #include "support/Thrown.h"
 
 #include <filesystem>

@@ -1,5 +1,5 @@
 #include "core/CodePage.h"
-#include "core/windows/CodePage.h"
+#include "core/windows/WindowsCodePage.h"
 
 #include <gtest/gtest.h>
 #include <iostream>

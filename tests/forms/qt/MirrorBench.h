@@ -1,9 +1,9 @@
 // A plain control of each kind and the window for its mirror, for tests of one mirror alone.
 #pragma once
 
-#include "forms/qt/MirrorSet.h"
 #include "forms/qt/QtPrinters.h"
 #include "forms/qt/RecordingEdge.h"
+#include "forms/qt/mirrors/MirrorSet.h"
 #include "replay/OnScreen.h"
 
 #include <functional>

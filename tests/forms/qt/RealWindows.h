@@ -3,7 +3,7 @@
 
 #include "forms/qt/QtPrinters.h"
 #include "forms/qt/RecordingEdge.h"
-#include "forms/qt/WindowSet.h"
+#include "forms/qt/layout/WindowSet.h"
 #include "support/TestSession.h"
 
 #include <array>

@@ -1,0 +1,124 @@
+#include "forms/qt/layout/FieldRows.h"
+#include "forms/qt/layout/Layouts.h"
+#include "gamefiles/PaletteLabel.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace wheelwright {
+namespace {
+
+void AddBar(Label& label, ScrollBar& bar, Label& value, QGridLayout& grid, QWidget& page,
+            MirrorSet& mirrors) {
+  const int row = grid.rowCount();
+  LabelMirror& name = mirrors.Add(label, &page);
+  QWidget& input = mirrors.Add(bar, &page).Widget();
+  QLabel& text = mirrors.Add(value, &page).Widget();
+  name.Name(input);
+  text.setMinimumWidth(text.fontMetrics().horizontalAdvance("255"));
+  text.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  grid.addWidget(&name.Widget(), row, kLabelColumn);
+  grid.addWidget(&input, row, kInputColumn);
+  grid.addWidget(&text, row, kInfoColumn);
+}
+
+QLayout* ColorList(FrmMain& main, TabGroupMirror& group, QWidget& page, MirrorSet& mirrors) {
+  auto* column = new QVBoxLayout;
+  ListBoxMirror& colors = mirrors.Add(main.lstColors, &page);
+  colors.ShowColors(ColorInLabel);
+  QWidget& list = colors.Widget();
+  group.Name(kPaletteTab, list);
+  column->addWidget(&list);
+  auto* buttons = new QHBoxLayout;
+  buttons->addWidget(&mirrors.Add(main.cmdNewColor, &page).Widget());
+  buttons->addWidget(&mirrors.Add(main.cmdDeleteColor, &page).Widget());
+  column->addLayout(buttons);
+  return column;
+}
+
+QLayout* ColorEditor(FrmMain& main, QWidget& page, MirrorSet& mirrors) {
+  auto* grid = new QGridLayout;
+  grid->setColumnStretch(kInputColumn, 1);
+  grid->setHorizontalSpacing(page.fontMetrics().height());
+  grid->setVerticalSpacing(page.fontMetrics().height() / 2);
+  LabelMirror& name = mirrors.Add(main.lblColorName, &page);
+  QWidget& input = mirrors.Add(main.txtColorName, &page).Widget();
+  name.Name(input);
+  grid->addWidget(&name.Widget(), 0, kLabelColumn);
+  grid->addWidget(&input, 0, kInputColumn, 1, 2);
+  AddBar(main.lblRot, main.HScroll1, main.lblRotWert, *grid, page, mirrors);
+  AddBar(main.lblGrün, main.HScroll2, main.lblGrünWert, *grid, page, mirrors);
+  AddBar(main.lblBlau, main.HScroll3, main.lblBlauWert, *grid, page, mirrors);
+  const int below = grid->rowCount();
+  for (int row = 0; row < below; ++row) grid->setRowMinimumHeight(row, RowHeight(page));
+  grid->addWidget(&mirrors.Add(main.picFarbe, &page).Widget(), below, kInputColumn, 1, 2);
+  grid->setRowStretch(below, 1);
+  return grid;
+}
+
+void BuildPalette(FrmMain& main, TabGroupMirror& group, QWidget& page, MirrorSet& mirrors) {
+  const int gap = page.fontMetrics().height();
+  auto* halves = new QHBoxLayout(&page);
+  halves->setContentsMargins(gap, gap, gap, gap);
+  halves->setSpacing(gap);
+  halves->addLayout(ColorList(main, group, page, mirrors), 1);
+  halves->addLayout(ColorEditor(main, page, mirrors), 1);
+}
+
+QWidget* PairList(FrmMain& main, QWidget& page, MirrorSet& mirrors) {
+  FrameMirror& frame = mirrors.Add(main.frameColors, &page);
+  QWidget& list = mirrors.Add(main.lstCarColors, &frame.Widget()).Widget();
+  frame.Name(list);
+  auto* column = new QVBoxLayout(&frame.Widget());
+  column->addWidget(&list);
+  column->addWidget(&mirrors.Add(main.cmdRemColor, &frame.Widget()).Widget(), 0, Qt::AlignRight);
+  return &frame.Widget();
+}
+
+void AddPick(Label& label, PickList& pick, Swatch& swatch, QGridLayout& grid, QWidget& frame,
+             MirrorSet& mirrors) {
+  constexpr int kCharactersShown = 22;
+  const int row = grid.rowCount();
+  LabelMirror& name = mirrors.Add(label, &frame);
+  PickListMirror& colors = mirrors.Add(pick, &frame);
+  colors.ShowColors(ColorInLabel);
+  QComboBox& input = colors.Widget();
+  input.setMinimumContentsLength(kCharactersShown);
+  name.Name(input);
+  grid.addWidget(&name.Widget(), row, kLabelColumn);
+  grid.addWidget(&input, row, kInputColumn);
+  grid.addWidget(&mirrors.Add(swatch, &frame).Widget(), row, kInfoColumn);
+}
+
+QWidget* PairAdder(FrmMain& main, QWidget& page, MirrorSet& mirrors) {
+  QWidget& frame = mirrors.Add(main.frameAddColors, &page).Widget();
+  auto* grid = new QGridLayout(&frame);
+  grid->setColumnStretch(kInputColumn, 1);
+  grid->setVerticalSpacing(frame.fontMetrics().height() / 2);
+  AddPick(main.lblColor1, main.cmbColor1, main.picColor1, *grid, frame, mirrors);
+  AddPick(main.lblColor2, main.cmbColor2, main.picColor2, *grid, frame, mirrors);
+  const int below = grid->rowCount();
+  grid->addWidget(&mirrors.Add(main.cmdAddColor, &frame).Widget(), below, kInputColumn, 1, 2,
+                  Qt::AlignRight);
+  grid->setRowStretch(below + 1, 1);
+  return &frame;
+}
+
+void BuildPairs(FrmMain& main, QWidget& page, MirrorSet& mirrors) {
+  const int gap = page.fontMetrics().height();
+  auto* halves = new QHBoxLayout(&page);
+  halves->setContentsMargins(gap, gap, gap, gap);
+  halves->setSpacing(gap);
+  halves->addWidget(PairList(main, page, mirrors), 1);
+  halves->addWidget(PairAdder(main, page, mirrors), 1);
+}
+
+}  // namespace
+
+void BuildColorPages(FrmMain& main, TabGroupMirror& group, MirrorSet& mirrors) {
+  BuildPalette(main, group, group.Page(kPaletteTab), mirrors);
+  BuildPairs(main, group.Page(kPairsTab), mirrors);
+}
+
+}  // namespace wheelwright

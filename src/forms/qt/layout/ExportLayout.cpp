@@ -1,0 +1,105 @@
+#include "forms/qt/layout/Layouts.h"
+
+#include <QGridLayout>
+#include <QMargins>
+#include <QVBoxLayout>
+
+namespace wheelwright {
+namespace {
+
+// The design is in twentieths of a point, of which a pixel at 96 dots per inch has 15.
+constexpr int Pixels(int twentieths) { return twentieths / 15; }
+
+constexpr QSize kExportSize(Pixels(5385), Pixels(4785));
+constexpr QSize kExportListSize(Pixels(2175), Pixels(3765));
+constexpr QSize kArrowSize(Pixels(615), Pixels(375));
+constexpr QSize kButtonSize(Pixels(1215), Pixels(375));
+constexpr int kLabelHeight = Pixels(255);
+constexpr QMargins kMargins(Pixels(120), Pixels(120), Pixels(90), Pixels(90));
+constexpr int kGap = Pixels(105);
+constexpr int kBelowLists = Pixels(75);
+constexpr int kBetweenArrows = Pixels(105);
+
+enum ExportColumn { kAvailable, kArrows, kChosen };
+
+LabelMirror& AddList(Label& caption, MarkList& list, ExportColumn column, QGridLayout& grid,
+                     QWidget* window, MirrorSet& mirrors) {
+  LabelMirror& name = mirrors.Add(caption, window);
+  QWidget& rows = mirrors.Add(list, window).Widget();
+  rows.setMinimumSize(kExportListSize);
+  name.Name(rows);
+  grid.addWidget(&name.Widget(), 0, column);
+  grid.addWidget(&rows, 1, column);
+  grid.setColumnStretch(column, 1);
+  return name;
+}
+
+// A large font needs more than the design.
+QWidget* Arrow(Button& button, QWidget* window, MirrorSet& mirrors) {
+  QWidget& arrow = mirrors.Add(button, window).Widget();
+  const QSize needed(arrow.fontMetrics().horizontalAdvance(">>>>"), arrow.sizeHint().height());
+  const QSize size = kArrowSize.expandedTo(needed);
+  arrow.setMinimumSize(size);
+  arrow.setMaximumWidth(size.width());
+  return &arrow;
+}
+
+QLayout* Arrows(FrmExport& exporter, QWidget* window, MirrorSet& mirrors) {
+  auto* column = new QVBoxLayout;
+  column->setSpacing(0);
+  column->addWidget(Arrow(exporter.cmdAdd, window, mirrors));
+  column->addWidget(Arrow(exporter.cmdDel, window, mirrors));
+  column->addSpacing(kBetweenArrows);
+  column->addWidget(Arrow(exporter.cmdAddAll, window, mirrors));
+  column->addWidget(Arrow(exporter.cmdDelAll, window, mirrors));
+  column->addStretch();
+  return column;
+}
+
+// As wide and high as the row gives, which is at least what its caption needs.
+QWidget* BottomButton(Button& button, QWidget* window, MirrorSet& mirrors) {
+  QWidget& widget = mirrors.Add(button, window).Widget();
+  widget.setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Preferred);
+  return &widget;
+}
+
+QLayout* BottomRow(FrmExport& exporter, QWidget* window, MirrorSet& mirrors) {
+  enum { kHiddenPlace, kSpace, kExportPlace, kClosePlace };
+  auto* row = new QGridLayout;
+  row->setSpacing(kGap);
+  row->setRowMinimumHeight(0, kButtonSize.height());
+  row->setColumnMinimumWidth(kExportPlace, kButtonSize.width());
+  row->setColumnMinimumWidth(kClosePlace, kButtonSize.width());
+  row->setColumnStretch(kSpace, 1);
+  row->addWidget(BottomButton(exporter.cmdExport, window, mirrors), 0, kExportPlace);
+  row->addWidget(BottomButton(exporter.cmdClose, window, mirrors), 0, kClosePlace);
+  row->addWidget(BottomButton(exporter.Spez, window, mirrors), 0, kHiddenPlace);
+  return row;
+}
+
+}  // namespace
+
+void LayOutExport(FrmExport& exporter, QWidget* window, MirrorSet& mirrors) {
+  auto* grid = new QGridLayout;
+  grid->setSpacing(kGap);
+  grid->setRowMinimumHeight(0, kLabelHeight);
+  LabelMirror& available =
+      AddList(exporter.lblExportCar, exporter.lst1, kAvailable, *grid, window, mirrors);
+  grid->addLayout(Arrows(exporter, window, mirrors), 1, kArrows);
+  LabelMirror& chosen = AddList(exporter.lblExport, exporter.lst2, kChosen, *grid, window, mirrors);
+  // An arrow alone says little to who doesn't see where it points.
+  for (const Button* arrow : {&exporter.cmdAdd, &exporter.cmdAddAll}) {
+    chosen.Describe(mirrors.Of(*arrow).Widget());
+  }
+  for (const Button* arrow : {&exporter.cmdDel, &exporter.cmdDelAll}) {
+    available.Describe(mirrors.Of(*arrow).Widget());
+  }
+  auto* column = new QVBoxLayout(window);
+  column->setContentsMargins(kMargins);
+  column->setSpacing(kBelowLists);
+  column->addLayout(grid, 1);
+  column->addLayout(BottomRow(exporter, window, mirrors));
+  window->resize(kExportSize);
+}
+
+}  // namespace wheelwright

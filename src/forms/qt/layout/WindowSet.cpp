@@ -1,0 +1,65 @@
+#include "forms/qt/layout/WindowSet.h"
+
+#include "forms/qt/layout/Layouts.h"
+#include "forms/qt/widgets/ShownText.h"
+
+#include <QCloseEvent>
+#include <QShortcut>
+
+namespace wheelwright {
+namespace {
+
+// What the three real windows have in common: title, coming and going, and the close box.
+class WindowShell : public QWidget {
+ public:
+  // A window with an owner stays above it and is none the less not modal; Escape closes it as its
+  // close box does.
+  WindowShell(Window& window, EventEdge& edge, QWidget* owner)
+      : QWidget(owner, Qt::Window), window_(window), edge_(edge) {
+    setObjectName(QString::fromStdString(window.Name()));
+    setAttribute(Qt::WA_QuitOnClose, owner == nullptr);
+    setWindowTitle(ShownTitle(window.Title()));
+    window.notice = [this] { Follow(); };
+    if (owner == nullptr) return;
+    QObject::connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this,
+                     &QWidget::close);
+  }
+  ~WindowShell() override { window_.notice = nullptr; }
+
+ protected:
+  // Asks the plain window's handler; the window only goes if the plain one has gone.
+  void closeEvent(QCloseEvent* event) override {
+    edge_.Enter([this] { Run(window_.closeRequested); });
+    event->setAccepted(!window_.IsVisible());
+  }
+
+ private:
+  void Follow() {
+    setWindowTitle(ShownTitle(window_.Title()));
+    if (isHidden() == window_.IsVisible()) setVisible(window_.IsVisible());
+  }
+
+  Window& window_;
+  EventEdge& edge_;
+};
+
+}  // namespace
+
+WindowSet::WindowSet(Session& session, EventEdge& edge)
+    : session_(session),
+      main_(std::make_unique<WindowShell>(session.main, edge, nullptr)),
+      error_(std::make_unique<WindowShell>(session.error, edge, main_.get())),
+      exporter_(std::make_unique<WindowShell>(session.exporter, edge, main_.get())),
+      mirrors_(edge) {
+  LayOutMain(session.main, main_.get(), mirrors_);
+  LayOutError(session.error, error_.get(), mirrors_);
+  LayOutExport(session.exporter, exporter_.get(), mirrors_);
+}
+
+QWidget& WindowSet::Of(const Window& window) const {
+  if (&window == &session_.error) return *error_;
+  if (&window == &session_.exporter) return *exporter_;
+  return *main_;
+}
+
+}  // namespace wheelwright

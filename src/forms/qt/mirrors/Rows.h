@@ -1,0 +1,64 @@
+// The rows of a plain list as Qt's views want them, and the view of a list box.
+#pragma once
+
+#include "screen/Lists.h"
+
+#include <array>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <QAbstractListModel>
+#include <QListView>
+
+namespace wheelwright {
+
+// The colour that a row's text tells of, if it does.
+using ColorOfText = std::optional<std::array<int, 3>> (*)(const std::string& text);
+
+// Reads the rows straight from the list and never copies them.
+class RowModel : public QAbstractListModel {
+ public:
+  RowModel(const RowList& list, QObject* parent);
+
+  int rowCount(const QModelIndex& parent = {}) const override;
+  QVariant data(const QModelIndex& index, int role) const override;
+
+  // Shows the colours that the rows tell of beside them.
+  void ShowColors(ColorOfText colorOf) { colorOf_ = colorOf; }
+
+  // Tells the views that the list's rows have changed as a whole, or texts of rows have.
+  void Follow(Aspect aspect);
+
+ private:
+  QVariant Decoration(const std::string& text) const;
+
+  const RowList& list_;
+  ColorOfText colorOf_ = nullptr;
+};
+
+// A list view in which what is chosen is what is selected, and never just the row with the cursor.
+class RowView : public QListView {
+ public:
+  RowView(QAbstractItemView::SelectionMode mode, QWidget* parent);
+
+  // The selected rows from first to last.
+  std::vector<int> SelectedRows() const;
+  // Selects exactly these rows, which are in order.
+  void SelectRows(const std::vector<int>& rows);
+
+  // Called when a person chooses the row that is the selected one already, which changes no
+  // selection.
+  std::function<void(int)> chosenAgain;
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  bool IsOnlySelected(const QModelIndex& row) const;
+  void ChooseAgain(const QModelIndex& row);
+};
+
+}  // namespace wheelwright

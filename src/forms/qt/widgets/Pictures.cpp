@@ -1,0 +1,41 @@
+#include "forms/qt/widgets/Pictures.h"
+
+#include <QFileInfo>
+#include <QImageReader>
+#include <QPainter>
+
+namespace wheelwright {
+
+QImage ReadPicture(const std::string& file) {
+  const QString path = QString::fromStdString(file);
+  // The toolkit would wait for somebody to write into a pipe.
+  if (!QFileInfo(path).isFile()) return {};
+  QImageReader reader(path);
+  reader.setDecideFormatFromContent(true);
+  reader.setAutoTransform(false);
+  const QByteArray format = reader.format();
+  if (format != "bmp" && format != "jpeg" && format != "jpg") return {};
+  return reader.read();
+}
+
+void PictureArea::Show(const std::string& file) {
+  const QDateTime changed = QFileInfo(QString::fromStdString(file)).lastModified();
+  if (file == file_ && changed == readAs_) return;
+  file_ = file;
+  readAs_ = changed;
+  image_ = file.empty() ? QImage() : ReadPicture(file);
+  image_.setDevicePixelRatio(1);
+  update();
+}
+
+void PictureArea::MoveTo(QPointF place) {
+  place_ = place;
+  update();
+}
+
+void PictureArea::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  painter.drawImage(place_, image_);
+}
+
+}  // namespace wheelwright

@@ -1,0 +1,189 @@
+// The coming and going of the three windows, and their keys.
+#include "forms/qt/RealWindows.h"
+#include "forms/qt/Settle.h"
+
+#include <QPushButton>
+#include <QtTest/QTest>
+
+namespace wheelwright::testing {
+namespace {
+
+using Shown = std::vector<std::string>;
+
+class WindowSetTest : public RealWindows {
+ protected:
+  void ShowErrors() {
+    test.error.lstErrors.AddRow({"BUS", "", "x"});
+    test.error.SetVisible(true);
+    Activate(test.error);
+  }
+
+  void ShowExport() {
+    test.OpenHandling(VehicleLineOf("BUS"));
+    main.cmdExportCar.ClickByHand();
+    Activate(test.exporter);
+  }
+
+  // Each of the platform's keys, or the usual one where it has none.
+  void Press(QKeySequence::StandardKey key, const char* usual) {
+    QList<QKeySequence> keys = QKeySequence::keyBindings(key);
+    if (keys.isEmpty()) keys += QKeySequence(usual);
+    for (const QKeySequence& sequence : keys) QTest::keySequence(&windows.Of(main), sequence);
+  }
+};
+
+TEST_F(WindowSetTest, EachWindowIsOnScreenWhileItsPlainOneIsVisible) {
+  EXPECT_TRUE(windows.Of(main).isVisible());
+  EXPECT_FALSE(windows.Of(test.error).isVisible());
+  EXPECT_FALSE(windows.Of(test.exporter).isVisible());
+  EXPECT_EQ(Differences(), "");
+}
+
+TEST_F(WindowSetTest, ClosingTheLoadProblemsHidesThemAndKeepsTheRows) {
+  ShowErrors();
+  EXPECT_FALSE(windows.Of(test.error).close() && test.error.IsVisible());
+  EXPECT_FALSE(windows.Of(test.error).isVisible());
+  EXPECT_EQ(test.error.lstErrors.Rows().size(), 1u);
+  test.error.lstErrors.AddRow({"TAXI", "", "y"});
+  test.error.SetVisible(true);
+  EXPECT_TRUE(windows.Of(test.error).isVisible());
+  EXPECT_EQ(Differences(), "");
+}
+
+TEST_F(WindowSetTest, ClosingTheMainWindowAsksAndStaysWithoutAYes) {
+  test.vars.IsSaved = false;
+  test.desktop.answers = {false};
+  EXPECT_FALSE(windows.Of(main).close());
+  EXPECT_TRUE(windows.Of(main).isVisible());
+  EXPECT_EQ(test.desktop.shown, (Shown{"question: E117"}));
+}
+
+TEST_F(WindowSetTest, ClosingTheMainWindowWithAYesEndsTheProgram) {
+  test.vars.IsSaved = false;
+  test.desktop.answers = {true};
+  windows.Of(main).close();
+  EXPECT_EQ(test.desktop.shown, (Shown{"question: E117", "end"}));
+}
+
+TEST_F(WindowSetTest, ClosingTheExportForgetsItsLists) {
+  ShowExport();
+  EXPECT_EQ(test.exporter.lst1.Count(), 1);
+  windows.Of(test.exporter).close();
+  EXPECT_FALSE(test.exporter.IsVisible());
+  EXPECT_EQ(test.exporter.lst1.Count(), 0);
+  EXPECT_EQ(Differences(), "");
+}
+
+TEST_F(WindowSetTest, EscapeClosesTheOtherWindowsAndNotTheMainOne) {
+  ShowErrors();
+  QTest::keyClick(&windows.Of(test.error), Qt::Key_Escape);
+  EXPECT_FALSE(test.error.IsVisible());
+  ShowExport();
+  QTest::keyClick(&windows.Of(test.exporter), Qt::Key_Escape);
+  EXPECT_FALSE(test.exporter.IsVisible());
+  Activate(main);
+  test.desktop.shown.clear();
+  QTest::keyClick(&windows.Of(main), Qt::Key_Escape);
+  EXPECT_EQ(test.desktop.shown, Shown());
+}
+
+TEST_F(WindowSetTest, TheMainWindowStaysUsableBesideTheOthers) {
+  ShowErrors();
+  ShowExport();
+  EXPECT_FALSE(windows.Of(test.error).isModal());
+  EXPECT_FALSE(windows.Of(test.exporter).isModal());
+  auto& open = Of<QPushButton>(main.cmdOpen);
+  test.desktop.shown.clear();
+  test.desktop.choices = {std::nullopt};
+  QTest::mouseClick(&open, Qt::LeftButton);
+  EXPECT_EQ(test.desktop.shown, Shown{"open"});
+}
+
+// The program ends with its main window; another window that is up must not keep the process.
+TEST_F(WindowSetTest, OnlyTheMainWindowCountsForTheEnd) {
+  EXPECT_TRUE(windows.Of(main).testAttribute(Qt::WA_QuitOnClose));
+  EXPECT_FALSE(windows.Of(test.error).testAttribute(Qt::WA_QuitOnClose));
+  EXPECT_FALSE(windows.Of(test.exporter).testAttribute(Qt::WA_QuitOnClose));
+}
+
+TEST_F(WindowSetTest, AnArrowOfTheExportIsDescribedByTheListThatItFills) {
+  const auto description = [this](const Button& arrow) {
+    return windows.Of(arrow).accessibleDescription();
+  };
+  EXPECT_EQ(description(test.exporter.cmdAdd), "E111");
+  EXPECT_EQ(description(test.exporter.cmdAddAll), "E111");
+  EXPECT_EQ(description(test.exporter.cmdDel), "E110");
+  EXPECT_EQ(description(test.exporter.cmdDelAll), "E110");
+}
+
+TEST_F(WindowSetTest, TheStandardKeysClickTheirButtons) {
+  test.desktop.choices = {std::nullopt};
+  Press(QKeySequence::Open, "Ctrl+O");
+  EXPECT_EQ(test.desktop.shown, Shown{"open"});
+  Press(QKeySequence::HelpContents, "F1");
+  EXPECT_EQ(test.LastShown(), "error: E121");
+  Press(QKeySequence::Quit, "Ctrl+Q");
+  EXPECT_EQ(test.LastShown(), "end");
+}
+
+TEST_F(WindowSetTest, TheKeysOfSavingWorkOnceAFileIsOpen) {
+  Press(QKeySequence::Save, "Ctrl+S");
+  Press(QKeySequence::SaveAs, "Ctrl+Shift+S");
+  EXPECT_EQ(test.desktop.shown, Shown());
+  test.OpenHandling(VehicleLineOf("BUS"));
+  test.files.written.clear();
+  Press(QKeySequence::Save, "Ctrl+S");
+  EXPECT_EQ(test.files.written, Shown{TestSession::kHandlingPath});
+  test.desktop.choices = {std::nullopt};
+  Press(QKeySequence::SaveAs, "Ctrl+Shift+S");
+  EXPECT_EQ(test.LastShown(), "save");
+}
+
+// The group of tabs that shows takes the space of the greatest.
+TEST_F(WindowSetTest, TheMainWindowKeepsItsSizeWhateverFileIsOpen) {
+  const QWidget& window = windows.Of(main);
+  const auto sizes = [&] {
+    Settle();
+    return std::pair(window.size(), window.minimumSizeHint());
+  };
+  const auto before = sizes();
+  test.OpenHandling(VehicleLineOf("BUS"));
+  EXPECT_EQ(sizes(), before);
+  test.OpenDefinition(kDefinition);
+  EXPECT_EQ(sizes(), before);
+  test.OpenColors(kColors);
+  EXPECT_EQ(sizes(), before);
+}
+
+// More pairs than a line of the file can have: their number has no limit but that of the table.
+TEST_F(WindowSetTest, AllPairsOfAVehicleShowHoweverManyTheyAre) {
+  constexpr int kMost = 32767;
+  test.OpenColors(kColors);
+  std::vector<std::int16_t> numbers(kMost - 1);
+  test.vars.CarColors.At(0).Color1 = numbers;
+  test.vars.CarColors.At(0).Color2 = numbers;
+  main.cmbAutos.ChooseByHand(0);
+  main.cmdAddColor.ClickByHand();
+  EXPECT_EQ(Of<RowView>(main.lstCarColors).model()->rowCount(), kMost);
+  main.lstCarColors.ChooseByHand(kMost - 1);
+  Settle();
+  EXPECT_EQ(Of<RowView>(main.lstCarColors).SelectedRows(), std::vector<int>{kMost - 1});
+  EXPECT_EQ(Differences(), "");
+}
+
+// A whole day in miniature: what the program does to its controls arrives on all of them.
+TEST_F(WindowSetTest, AllControlsShowWhatThePlainOnesSay) {
+  test.OpenHandling(VehicleLineOf("BUS") + "\r\n" + VehicleLineOf("TAXI"));
+  EXPECT_EQ(Differences(), "");
+  Of<QComboBox>(main.cmbAutos).setFocus();
+  QTest::keyClick(&windows.Of(main.cmbAutos), Qt::Key_Down);
+  EXPECT_EQ(main.txtAutoname.Text(), "TAXI");
+  EXPECT_EQ(Differences(), "");
+  test.OpenDefinition(kDefinition);
+  EXPECT_EQ(Differences(), "");
+  test.OpenColors(kColors);
+  EXPECT_EQ(Differences(), "");
+}
+
+}  // namespace
+}  // namespace wheelwright::testing
