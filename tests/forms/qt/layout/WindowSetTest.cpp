@@ -41,7 +41,7 @@ TEST_F(WindowSetTest, EachWindowIsOnScreenWhileItsPlainOneIsVisible) {
 
 TEST_F(WindowSetTest, ClosingTheLoadProblemsHidesThemAndKeepsTheRows) {
   ShowErrors();
-  EXPECT_FALSE(windows.Of(test.error).close() && test.error.IsVisible());
+  EXPECT_TRUE(windows.Of(test.error).close());
   EXPECT_FALSE(windows.Of(test.error).isVisible());
   EXPECT_EQ(test.error.lstErrors.Rows().size(), 1u);
   test.error.lstErrors.AddRow({"TAXI", "", "y"});
@@ -68,7 +68,7 @@ TEST_F(WindowSetTest, ClosingTheMainWindowWithAYesEndsTheProgram) {
 TEST_F(WindowSetTest, ClosingTheExportForgetsItsLists) {
   ShowExport();
   EXPECT_EQ(test.exporter.lst1.Count(), 1);
-  windows.Of(test.exporter).close();
+  EXPECT_TRUE(windows.Of(test.exporter).close());
   EXPECT_FALSE(test.exporter.IsVisible());
   EXPECT_EQ(test.exporter.lst1.Count(), 0);
   EXPECT_EQ(Differences(), "");
