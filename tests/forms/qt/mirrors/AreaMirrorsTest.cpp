@@ -138,6 +138,12 @@ TEST_F(AreaMirrorsTest, ADecompressionBombShowsNothing) {
   EXPECT_FALSE(QtDesktop().SizeOfPicture(file));
 }
 
+TEST_F(AreaMirrorsTest, ASwatchShowsTheColorThatItHasAlready) {
+  swatch.Fill(10, 200, 30);
+  Show<ColorArea>(swatch);
+  EXPECT_EQ(Difference(swatch), "");
+}
+
 TEST_F(AreaMirrorsTest, ASwatchShowsItsColorAndBeforeTheFirstNone) {
   auto& area = Show<ColorArea>(swatch);
   const QColor background = area.palette().color(area.backgroundRole());
