@@ -23,10 +23,6 @@ std::string FieldOf(const std::vector<std::string>& fields, int index) {
   return inside ? fields[static_cast<std::size_t>(index)] : "";
 }
 
-int CountPlainly(const std::string& line) {
-  return static_cast<int>(testing::SplitAtCommas(line).size());
-}
-
 void RequireSameCount(const CommaLine& line, std::string& plain) {
   plain = testing::WithoutBlanksAndTabs(plain);
   Require(line.CountCommaFields() == static_cast<int>(testing::SplitAtCommas(plain).size()),
