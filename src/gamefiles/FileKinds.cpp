@@ -31,6 +31,7 @@ void ListKeys(PickList& list, const Table<Record>& table, std::string Record::*k
 
 void ListColors(ListBox& list, const Table<ColorEntry>& colors, int count) {
   std::vector<std::string> labels;
+  labels.reserve(static_cast<std::size_t>(count));
   for (int index = 0; index < count; ++index) labels.push_back(PaletteLabel(colors.At(index)));
   list.Clear();
   list.AddRows(std::move(labels));

@@ -35,8 +35,8 @@ template <class Record>
 struct FieldRow {
   std::string Record::*value;
   FieldInput input;
-  int tab;
-  int tabRow;  // counted from 0
+  int tab = 0;
+  int tabRow = 0;  // counted from 0
   bool isNamedInProblems = true;
   FieldCaption label;
   FieldCaption hint = {};  // not every field has one
