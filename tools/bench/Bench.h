@@ -7,6 +7,7 @@
 
 #include <filesystem>
 #include <ostream>
+#include <streambuf>
 #include <string>
 #include <utility>
 
@@ -16,6 +17,11 @@ namespace wheelwright::bench {
 struct Folders {
   std::string program;
   std::string data;
+};
+
+// Takes what is written to it, and keeps nothing.
+struct Nowhere : std::streambuf {
+  int_type overflow(int_type character) override { return traits_type::not_eof(character); }
 };
 
 // `Screen` is one of the two screens of the replay: with real windows or without.
@@ -65,8 +71,9 @@ class Bench {
 
   const DataFile& data_;
   std::string path_;
-  std::ostream nowhere_{nullptr};
-  Screen screen_{nowhere_};
+  Nowhere nowhere_;
+  std::ostream result_{&nowhere_};
+  Screen screen_{result_};
   int row_ = 0;
   bool longer_ = false;
 };
