@@ -36,6 +36,10 @@ struct Vars {
   std::int16_t CurrentIde = 0;
   std::int16_t CurrentCarColor = 0;
 
+  // The two that every edit is for. Throw failure 9 when the table has no such record.
+  Car& ShownCar() { return Cars.At(CurrentCar); }
+  IdeEntry& ShownIde() { return Ides.At(CurrentIde); }
+
   bool IsSaved = true;  // true when no edit is pending
 };
 

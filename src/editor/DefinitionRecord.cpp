@@ -18,7 +18,7 @@ void ShowDefinitionRecord(Session& session) {
   vars.CurrentIde = Checked16(std::max(0, vars.Ides.First(&IdeEntry::HandlingID, key)));
   for (const FieldRow<IdeEntry>& field :
        std::span(kDefinitionFields).first(kShownDefinitionFields)) {
-    const std::string text = vars.Ides.At(vars.CurrentIde).*field.value;
+    const std::string text = vars.ShownIde().*field.value;
     if (auto* const box = InputOf<TextBox>(main, field)) box->SetText(text);
     if (auto* const list = InputOf<PickList>(main, field)) {
       ChooseText(*list, field.entries.words.size(), text);

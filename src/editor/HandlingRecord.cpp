@@ -32,8 +32,6 @@ constexpr std::array<BoatCaption, 9> kBoatCaptions = {{
 // The captions are set between this field and the next one.
 constexpr auto kLastFieldBeforeCaptions = &Car::TractionBias;
 
-Car& CurrentCarOf(Session& session) { return session.vars.Cars.At(session.vars.CurrentCar); }
-
 const FieldRow<Car>& FieldOf(Label FrmMain::*label) {
   return *std::find_if(kHandlingFields.begin(), kHandlingFields.end(),
                        [=](const FieldRow<Car>& field) { return field.label.control == label; });
@@ -48,7 +46,7 @@ std::int16_t LineKindOfSnapshot(const Vars& vars) {
 
 // A code that stands for no entry leaves the list as it was.
 void ShowCode(Session& session, const FieldRow<Car>& field, PickList& list) {
-  const std::string code = CurrentCarOf(session).*field.value;
+  const std::string code = session.vars.ShownCar().*field.value;
   const std::string_view codes = field.entries.codes;
   for (std::size_t row = 0; row < codes.size(); ++row) {
     if (code == codes.substr(row, 1)) list.Choose(static_cast<int>(row));
@@ -58,7 +56,7 @@ void ShowCode(Session& session, const FieldRow<Car>& field, PickList& list) {
 // The box has three states; any other text shows an unticked box and stays in its field, which the
 // box's handler would overwrite.
 void ShowABS(Session& session) {
-  std::string& abs = CurrentCarOf(session).ABS;
+  std::string& abs = session.vars.ShownCar().ABS;
   if (abs.empty()) abs = "0";
   const std::string text = abs;
   const bool isState = text == "0" || text == "1" || text == "2";
@@ -68,7 +66,7 @@ void ShowABS(Session& session) {
 
 void ShowField(Session& session, const FieldRow<Car>& field) {
   if (auto* const text = InputOf<TextBox>(session.main, field)) {
-    text->SetText(CurrentCarOf(session).*field.value);
+    text->SetText(session.vars.ShownCar().*field.value);
   } else if (auto* const list = InputOf<PickList>(session.main, field)) {
     ShowCode(session, field, *list);
   } else {

@@ -26,10 +26,10 @@ void TickBoxes(FrmMain& main, int group, char digit) {
 
 void ShowModelFlags(Session& session) {
   Vars& vars = session.vars;
-  const std::string text = vars.Cars.At(vars.CurrentCar).ModelFlags;
+  const std::string text = vars.ShownCar().ModelFlags;
   for (CheckBox& box : session.main.chkFlag) box.SetState(0);
   const std::string padded = SpreadModelFlags(session.main, text);
-  vars.Cars.At(vars.CurrentCar).ModelFlags = padded;
+  vars.ShownCar().ModelFlags = padded;
 }
 
 std::string SpreadModelFlags(FrmMain& main, std::string text) {
@@ -53,7 +53,7 @@ std::string GetFlagDigit(const FrmMain& main, int group) {
 void StoreFlag(Session& session, int flag) {
   Vars& vars = session.vars;
   const int group = (flag - 1) / kFlagsOfAGroup + 1;
-  std::string& flags = vars.Cars.At(vars.CurrentCar).ModelFlags;
+  std::string& flags = vars.ShownCar().ModelFlags;
   // The lengths of the two parts hang on the group alone, whatever the length of the text.
   const std::size_t left = kDigits - static_cast<std::size_t>(group);
   const std::size_t right = std::min(flags.size(), static_cast<std::size_t>(group) - 1);

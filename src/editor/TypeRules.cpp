@@ -30,8 +30,6 @@ constexpr std::array<Wheel, 11> kWheelTable = {{
     {"257", "Airtrain_vlo"},
 }};
 
-IdeEntry& CurrentIdeOf(Session& session) { return session.vars.Ides.At(session.vars.CurrentIde); }
-
 void SetExtra1Captions(Session& session, std::size_t infoLang, std::size_t captionLang) {
   session.main.lblExtra1Info.SetCaption(session.vars.Lang[infoLang]);
   session.main.lblExtra1.SetCaption(session.vars.Lang[captionLang]);
@@ -39,7 +37,7 @@ void SetExtra1Captions(Session& session, std::size_t infoLang, std::size_t capti
 
 // An identifier without a name leaves the list as it was.
 void ShowWheel(Session& session) {
-  const std::string identifier = CurrentIdeOf(session).Extra1;
+  const std::string identifier = session.vars.ShownIde().Extra1;
   for (const Wheel& wheel : kWheelTable) {
     if (wheel.identifier == identifier) {
       ChooseText(session.main.cmbExtra1, kWheels.size(), std::string(wheel.name));
@@ -51,7 +49,7 @@ void ShowWheel(Session& session) {
 void ShowCarRules(Session& session) {
   FrmMain& main = session.main;
   SetExtra1Captions(session, 146, 145);
-  main.txtExtra2.SetText(CurrentIdeOf(session).Extra2);
+  main.txtExtra2.SetText(session.vars.ShownIde().Extra2);
   ShowWheel(session);
   main.lblExtra1.SetVisible(true);
   main.txtExtra1.SetVisible(false);
@@ -64,7 +62,7 @@ void ShowCarRules(Session& session) {
 
 void ShowPlaneRules(Session& session) {
   FrmMain& main = session.main;
-  main.txtExtra1.SetText(CurrentIdeOf(session).Extra1);
+  main.txtExtra1.SetText(session.vars.ShownIde().Extra1);
   SetExtra1Captions(session, 147, 151);
   main.lblExtra1.SetVisible(true);
   main.txtExtra1.SetVisible(true);
@@ -88,7 +86,7 @@ void HideExtras(FrmMain& main) {
 }  // namespace
 
 void ApplyTypeRules(Session& session) {
-  const std::string type = CurrentIdeOf(session).Typ;
+  const std::string type = session.vars.ShownIde().Typ;
   if (type == "car") {
     ShowCarRules(session);
   } else if (type == "plane") {
@@ -100,7 +98,7 @@ void ApplyTypeRules(Session& session) {
 
 void StoreType(Session& session) {
   session.vars.IsSaved = false;
-  CurrentIdeOf(session).Typ = session.main.cmbTyp.Text();
+  session.vars.ShownIde().Typ = session.main.cmbTyp.Text();
   ApplyTypeRules(session);
 }
 
@@ -109,7 +107,7 @@ void StoreWheel(Session& session) {
   const std::string name = session.main.cmbExtra1.Text();
   for (const Wheel& wheel : kWheelTable) {
     if (wheel.name == name) {
-      CurrentIdeOf(session).Extra1 = wheel.identifier;
+      session.vars.ShownIde().Extra1 = wheel.identifier;
       return;
     }
   }
