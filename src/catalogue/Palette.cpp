@@ -97,7 +97,7 @@ void AddColor(Session& session) {
     list.AddRow(PaletteLabel(color));
     list.Choose(list.Count() - 1);
     session.vars.IsSaved = false;
-    session.desktop.ShowInformation(Message(session, 154));
+    session.desktop.ShowInformation(Message(session, kColorWasAdded));
   });
 }
 
@@ -105,7 +105,7 @@ void DeleteColor(Session& session) {
   Guarded(session, [&] {
     ListBox& list = session.main.lstColors;
     if (NothingToStoreIn(list)) return;
-    if (!session.desktop.AskQuestion(Message(session, 153))) return;
+    if (!session.desktop.AskQuestion(Message(session, kRemoveColor))) return;
     ReferToFirstColor(session.vars.CarColors, ChosenColor(session).Index);
     ChosenColor(session).Index = kDeletedIndex;
     session.vars.Colors = WithoutDeleted(session.vars.Colors);

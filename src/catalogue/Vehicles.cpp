@@ -38,20 +38,20 @@ void AddVehicle(Session& session) {
     FillBlankVehicle(cars.At(cars.UpperBound()), name);
     session.main.cmbAutos.AddRow(name);
     session.vars.IsSaved = false;
-    session.desktop.ShowInformation(Message(session, 63) + " '" + name + "'");
+    session.desktop.ShowInformation(Message(session, kVehicleWasAdded) + " '" + name + "'");
   });
 }
 
 void DeleteVehicle(Session& session) {
   Guarded(session, [&] {
-    if (!session.desktop.AskYesNo(Message(session, 91))) return;
+    if (!session.desktop.AskYesNo(Message(session, kDeleteVehicle))) return;
     PickList& list = session.main.cmbAutos;
     const Table<Car> kept = WithoutVehicle(session.vars.Cars, list.Text());
     list.RemoveRow(list.Row());
     list.Choose(0);
     session.vars.Cars = kept;
     session.vars.IsSaved = false;
-    session.desktop.ShowInformation(Message(session, 92));
+    session.desktop.ShowInformation(Message(session, kVehicleWasDeleted));
   });
 }
 

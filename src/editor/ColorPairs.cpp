@@ -128,7 +128,7 @@ void AddPair(Session& session) {
 void RemovePair(Session& session) {
   ListBox& list = session.main.lstCarColors;
   if (list.Row() == RowList::kNoRow) return;
-  if (!session.desktop.AskQuestion(Message(session, 153))) return;
+  if (!session.desktop.AskQuestion(Message(session, kRemoveColor))) return;
   CarColorEntry& entry = CurrentEntry(session);
   const int pair = FindPairByName(session.vars.Colors, entry.Color1, list.Text());
   if (pair == kNotFound) return;

@@ -30,9 +30,9 @@ constexpr std::array<Wheel, 11> kWheelTable = {{
     {"257", "Airtrain_vlo"},
 }};
 
-void SetExtra1Captions(Session& session, std::size_t infoLang, std::size_t captionLang) {
-  session.main.lblExtra1Info.SetCaption(session.vars.Lang[infoLang]);
-  session.main.lblExtra1.SetCaption(session.vars.Lang[captionLang]);
+void SetExtra1Captions(Session& session, LangEntry info, LangEntry caption) {
+  session.main.lblExtra1Info.SetCaption(session.vars.Lang[info]);
+  session.main.lblExtra1.SetCaption(session.vars.Lang[caption]);
 }
 
 // An identifier without a name leaves the list as it was.
@@ -48,7 +48,7 @@ void ShowWheel(Session& session) {
 
 void ShowCarRules(Session& session) {
   FrmMain& main = session.main;
-  SetExtra1Captions(session, 146, 145);
+  SetExtra1Captions(session, kExtra1InfoOfCars, kExtra1OfCars);
   main.txtExtra2.SetText(session.vars.ShownIde().Extra2);
   ShowWheel(session);
   main.lblExtra1.SetVisible(true);
@@ -63,7 +63,7 @@ void ShowCarRules(Session& session) {
 void ShowPlaneRules(Session& session) {
   FrmMain& main = session.main;
   main.txtExtra1.SetText(session.vars.ShownIde().Extra1);
-  SetExtra1Captions(session, 147, 151);
+  SetExtra1Captions(session, kExtra1InfoOfPlanes, kExtra1OfPlanes);
   main.lblExtra1.SetVisible(true);
   main.txtExtra1.SetVisible(true);
   main.cmbExtra1.SetVisible(false);

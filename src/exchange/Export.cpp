@@ -80,7 +80,7 @@ void ExportVehicles(Session& session) {
   if (session.exporter.lst2.Count() == 0) return;
   Guarded(session, [&] {
     WriteVehicles(session, ExportHeader(ChosenVehicles(session)), WriteExport);
-    session.desktop.ShowInformation(Message(session, 113));
+    session.desktop.ShowInformation(Message(session, kVehiclesWereExported));
     UnloadExportWindow(session);
   });
 }

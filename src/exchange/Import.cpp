@@ -11,7 +11,7 @@ namespace {
 
 void PrepareDialog(Session& session) {
   FileDialog& dialog = session.main.CmD1;
-  dialog.title = Message(session, 114);
+  dialog.title = Message(session, kImportTitle);
   dialog.filter = FilterOfKind(session, kFileKinds[kHandlingFile]);
   dialog.flags = FileDialog::kHideReadOnly;
 }
@@ -34,14 +34,14 @@ void ImportVehicles(Session& session) {
     session.desktop.SetPointer(Pointer::Hourglass);
     if (!session.files.Exists(session.main.CmD1.file)) {
       normalPointer();
-      session.desktop.ShowError(Message(session, 12));
+      session.desktop.ShowError(Message(session, kFileIsMissing));
       return;
     }
     TakeVehicles(session, session.files.Read(session.main.CmD1.file));
     session.main.cmbAutos.Choose(0);
     session.vars.IsSaved = false;
     normalPointer();
-    session.desktop.ShowInformation(Message(session, 115));
+    session.desktop.ShowInformation(Message(session, kImportIsDone));
   };
   Guarded(session, import, normalPointer);
 }

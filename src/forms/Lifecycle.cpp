@@ -22,7 +22,7 @@ void StartUp(Session& session, const std::string& programDirectory) {
 }
 
 void RequestEnd(Session& session) {
-  if (session.vars.IsSaved || session.desktop.AskQuestion(Message(session, 117))) {
+  if (session.vars.IsSaved || session.desktop.AskQuestion(Message(session, kExitAnyway))) {
     session.desktop.EndProgram();
   }
 }

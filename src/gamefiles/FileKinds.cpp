@@ -148,18 +148,45 @@ void ListPaletteAndPairs(Session& session) {
 }
 
 std::string LabelOf(const Session& session, const FileKind& kind) {
-  return Message(session, kind.langName) + " (*." + kind.ending + ")";
+  return Message(session, kind.name) + " (*." + kind.ending + ")";
 }
 
 }  // namespace
 
 const std::array<FileKind, 3> kFileKinds = {{
-    {kHandlingFile, 1, "cfg", "cfg.backup", 14, true, true, &FrmMain::SSTab1, LoadHandling,
-     RewrittenHandling, CopyCars, ListCars},
-    {kDefinitionFile, 2, "ide", "ide.backup", 122, false, true, &FrmMain::SSTab2, LoadDefinitions,
-     RewrittenDefinitions, CopyIdes, ListIdes},
-    {kColorFile, 3, "dat", "dat.backup", 152, false, false, &FrmMain::SSTab3, LoadColors,
-     RewrittenColors, CopyColors, ListPaletteAndPairs},
+    {.type = kHandlingFile,
+     .filterIndex = 1,
+     .ending = "cfg",
+     .name = kHandlingFiles,
+     .hasAuthor = true,
+     .hasSaveFilter = true,
+     .tabs = &FrmMain::SSTab1,
+     .load = LoadHandling,
+     .rewritten = RewrittenHandling,
+     .copy = CopyCars,
+     .fillLists = ListCars},
+    {.type = kDefinitionFile,
+     .filterIndex = 2,
+     .ending = "ide",
+     .name = kDefinitionFiles,
+     .hasAuthor = false,
+     .hasSaveFilter = true,
+     .tabs = &FrmMain::SSTab2,
+     .load = LoadDefinitions,
+     .rewritten = RewrittenDefinitions,
+     .copy = CopyIdes,
+     .fillLists = ListIdes},
+    {.type = kColorFile,
+     .filterIndex = 3,
+     .ending = "dat",
+     .name = kColorFiles,
+     .hasAuthor = false,
+     .hasSaveFilter = false,
+     .tabs = &FrmMain::SSTab3,
+     .load = LoadColors,
+     .rewritten = RewrittenColors,
+     .copy = CopyColors,
+     .fillLists = ListPaletteAndPairs},
 }};
 
 const FileKind& KindOfOpenFile(const Vars& vars) {
@@ -168,7 +195,7 @@ const FileKind& KindOfOpenFile(const Vars& vars) {
 
 const FileKind* KindOfFile(const std::string& name, int filterIndex) {
   for (const FileKind& kind : kFileKinds) {
-    const bool ends = name.ends_with(kind.ending) || name.ends_with(kind.endingOfBackups);
+    const bool ends = name.ends_with(kind.ending) || name.ends_with(kind.ending + kBackupEnding);
     if (ends && filterIndex == kind.filterIndex) return &kind;
   }
   return nullptr;
@@ -177,7 +204,8 @@ const FileKind* KindOfFile(const std::string& name, int filterIndex) {
 std::string FilterOfAllKinds(const Session& session) {
   std::string filter;
   for (const FileKind& kind : kFileKinds) {
-    filter += LabelOf(session, kind) + "|*." + kind.ending + ";*." + kind.endingOfBackups + "|";
+    filter +=
+        LabelOf(session, kind) + "|*." + kind.ending + ";*." + kind.ending + kBackupEnding + "|";
   }
   return filter;
 }

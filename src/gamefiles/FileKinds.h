@@ -14,14 +14,17 @@ namespace wheelwright {
 
 enum class Snapshots { Take, PutBack };
 
+// Of a backup's name, behind that of its file.
+inline constexpr const char* kBackupEnding = ".backup";
+
 struct FileKind {
   FileType type;
   int filterIndex;
-  const char* ending;           // the last characters of the name, compared with case
-  const char* endingOfBackups;  // the same of a backup
-  int langName;                 // the kind's name in file dialogs
-  bool hasAuthor;               // whether it names its author and date
-  bool hasSaveFilter;           // whether a save dialog has a filter of the kind's own
+  std::string
+      ending;      // the last characters of the name, compared with case; those of a backup follow
+  LangEntry name;  // in file dialogs
+  bool hasAuthor;  // whether it names its author and date
+  bool hasSaveFilter;  // whether a save dialog has a filter of the kind's own
   TabGroup FrmMain::*tabs;
 
   // Fills snapshots, tables and lists from the text of a file. Gives the number of the line that

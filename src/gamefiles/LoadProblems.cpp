@@ -19,10 +19,11 @@ ReportList::Row RowOf(const Session& session, const LineProblem& problem) {
   const auto& lang = session.vars.Lang;
   if (problem.field == nullptr) {
     return {problem.vehicle, "",
-            lang[102] + ": " + std::to_string(problem.tokens) + " " + lang[103]};
+            lang[kWrongNumberOfValues] + ": " + std::to_string(problem.tokens) + " " +
+                lang[kInsteadOf33]};
   }
   return {problem.vehicle, CaptionOf(session.main, problem.field),
-          lang[problem.failed == TokenCheck::MustNotBeNumeric ? 104 : 105]};
+          lang[problem.failed == TokenCheck::MustNotBeNumeric ? kMustNotBeNumber : kMustBeNumber]};
 }
 
 }  // namespace

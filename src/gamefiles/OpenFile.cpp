@@ -11,7 +11,7 @@ namespace {
 
 void PrepareDialog(Session& session) {
   FileDialog& dialog = session.main.CmD1;
-  dialog.title = Message(session, 13);
+  dialog.title = Message(session, kOpenTitle);
   dialog.filter = FilterOfAllKinds(session);
   dialog.filterIndex = ToInteger16(session.settings.GetOr("Settings", "FileIndex", "0"));
   const std::string lastFile = session.settings.GetOr("Settings", "OpenPath", "");
@@ -76,7 +76,7 @@ void OpenChosenFile(Session& session) {
   session.desktop.SetPointer(Pointer::Hourglass);
   RememberChoice(session);
   if (!session.files.Exists(session.vars.CurrentFile))
-    return EndWithError(session, Message(session, 12));
+    return EndWithError(session, Message(session, kFileIsMissing));
   main.SetTitle("GTAViceCity PC-Version - Wheelwright [" + session.vars.CurrentFile + "]");
   main.cmbAutos.Clear();
   const FileKind* const kind = KindOfFile(session.vars.CurrentFile, main.CmD1.filterIndex);
@@ -90,7 +90,7 @@ void OpenChosenFile(Session& session) {
   if (const std::optional<int> damagedLine = LoadFile(session, *kind)) {
     session.desktop.SetPointer(Pointer::Normal);
     ResetWindow(session);
-    session.desktop.ShowError(Message(session, 150) + std::to_string(*damagedLine));
+    session.desktop.ShowError(Message(session, kDamagedLine) + std::to_string(*damagedLine));
     return;
   }
   main.cmbAutos.Choose(0);
@@ -103,7 +103,7 @@ void OpenChosenFile(Session& session) {
 }  // namespace
 
 void OpenFile(Session& session) {
-  if (!session.vars.IsSaved && !session.desktop.AskQuestion(Message(session, 118))) return;
+  if (!session.vars.IsSaved && !session.desktop.AskQuestion(Message(session, kOpenAnyway))) return;
   try {
     OpenChosenFile(session);
   } catch (...) {

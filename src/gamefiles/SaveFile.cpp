@@ -34,7 +34,7 @@ void PrepareDialog(Session& session) {
 
 void SaveFile(Session& session) {
   if (!WriteTables(session, session.vars.CurrentFile)) return;
-  session.desktop.ShowInformation(Message(session, 116));
+  session.desktop.ShowInformation(Message(session, kFileWasSaved));
 }
 
 void SaveFileAs(Session& session) {
@@ -45,7 +45,7 @@ void SaveFileAs(Session& session) {
     if (!WriteTables(session, dialog.file)) return;
     session.vars.CurrentFile = dialog.file;
     session.main.SetTitle("GTA3 PC-Version - Wheelwright [" + session.vars.CurrentFile + "]");
-    session.desktop.ShowInformation(Message(session, 116));
+    session.desktop.ShowInformation(Message(session, kFileWasSaved));
   });
 }
 

@@ -18,7 +18,7 @@ void OpenWithShell(Session& session, const std::string& file) {
 void OpenManual(Session& session) {
   const std::string manual = session.vars.AppPath + "Anleitung.htm";
   if (!session.files.Exists(manual)) {
-    session.desktop.ShowError(Message(session, 121));
+    session.desktop.ShowError(Message(session, kManualIsMissing));
     return;
   }
   OpenWithShell(session, manual);

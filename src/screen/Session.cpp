@@ -4,8 +4,8 @@
 
 namespace wheelwright {
 
-std::string Message(const Session& session, int langEntry) {
-  return ToUnicode(session.vars.Lang.at(static_cast<std::size_t>(langEntry)));
+std::string Message(const Session& session, LangEntry entry) {
+  return ToUnicode(session.vars.Lang[entry]);
 }
 
 void Guarded(Session& session, const std::function<void()>& steps,

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/Files.h"
+#include "core/LangEntries.h"
 #include "core/Settings.h"
 #include "core/Vars.h"
 #include "screen/Desktop.h"
@@ -29,7 +30,7 @@ struct Session {
 };
 
 // An entry of the language table as a message or caption in UTF-8.
-std::string Message(const Session& session, int langEntry);
+std::string Message(const Session& session, LangEntry entry);
 
 // A handler meets a failure in one of two ways: a guarded one catches it, any other lets it pass.
 // Runs the steps of a guarded handler. A failure ends them: `atOnce` runs first, then a cancelled

@@ -73,7 +73,7 @@ TEST(GuardedTest, AMessageIsAnEntryOfTheLanguageTableInUnicode) {
   test.vars.Lang[12] =
       "Datei nicht ge\xF6"
       "ffnet";
-  EXPECT_EQ(Message(test.session, 12), "Datei nicht geöffnet");
+  EXPECT_EQ(Message(test.session, kFileIsMissing), "Datei nicht geöffnet");
 }
 
 }  // namespace

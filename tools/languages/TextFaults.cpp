@@ -76,7 +76,7 @@ class TextCheck {
 
   void CheckFollowedTexts() {
     for (const FileKind& kind : kFileKinds) {
-      const auto entry = static_cast<std::size_t>(kind.langName);
+      const std::size_t entry = kind.name;
       if (entries_[entry].find_first_of("*()|") == std::string::npos) continue;
       Add(entry, "must be words only; the program puts \" (*." + std::string(kind.ending) +
                      ")\" behind them");

@@ -61,7 +61,9 @@ void Questions::TellLang(const ScriptLine& line) {
   if (entry < 0 || entry >= Vars::kLangEntries) {
     throw ScriptError("there is no language entry " + std::to_string(entry));
   }
-  stage_.lines.Print({{"lang", entry}, {"text", Message(stage_.session, entry)}});
+  stage_.lines.Print(
+      {{"lang", entry},
+       {"text", ToUnicode(stage_.session.vars.Lang.at(static_cast<std::size_t>(entry)))}});
 }
 
 void Questions::TellPointer(const ScriptLine& /*line*/) {
