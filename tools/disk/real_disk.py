@@ -23,18 +23,17 @@ import sys
 import tempfile
 import time
 
-TREE = pathlib.Path(__file__).resolve().parent.parent.parent
-APP = TREE / "tests" / "sessions" / "app"
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "replay"))
+import session as replayed
+
 SIZES = {"16 kB": 16_000, "5 MB": 5_000_000, "60 MB": 60_000_000}
 PAGE = 4096
 SAVED = "saved"
 
 
 def handling_file(size):
-    vehicle = "BUS            5500.0 2.8 9.0 3.2 0.0 0.0 0.0 75 0.75 0.75 0.50 4 160.0 14.0 R D 5.00 0.50 0 " \
-              "30.0 1.4 0.1 0.4 -0.2 0.5 0.0 0.5 0.0 9000 2 0 1\r\n"
     comments = "".join(f"; line {i} of this file\r\n" for i in range(size // 20))
-    return (vehicle + comments)[: size - 2].encode() + b"\r\n"
+    return (replayed.vehicle("BUS") + comments.encode())[: size - 2] + b"\r\n"
 
 
 def color_file(size):
@@ -42,32 +41,18 @@ def color_file(size):
     return ("#" + "x" * (size - len(sections) - 3) + "\r\n" + sections).encode()
 
 
-class Session:
-    """A session that is played line by line."""
-
-    def __init__(self, replay, before=(), **options):
-        command = [*before, replay, "--plain", "--app", str(APP)]
-        pipe = subprocess.PIPE
-        self.process = subprocess.Popen(command, stdin=pipe, stdout=pipe, stderr=subprocess.DEVNULL,
-                                        text=True, **options)
-        self.send({"start": True})
-
-    def send(self, *lines):
-        with contextlib.suppress(BrokenPipeError):
-            for line in lines:
-                self.process.stdin.write(json.dumps(line) + "\n")
-            self.process.stdin.flush()
+class Session(replayed.Session):
+    """A session of which it matters how saving ends."""
 
     def open(self, file, index=1):
         """Opens a file and waits until it is shown."""
-        self.send({"answer": {"file": str(file), "filter": index}}, {"click": "cmdOpen"}, {"clock": True})
+        self.send(*replayed.opening(file, index), {"clock": True})
         return self.answer_until("clock")
 
     def answer_until(self, key):
         """The last box or end of what comes until a line with this key."""
         told = None
-        for text in self.process.stdout:
-            line = json.loads(text)
+        for line in self.results():
             if line.get("box") in ("information", "error") or "end" in line:
                 told = line
             if key in line or "end" in line:
@@ -83,12 +68,6 @@ class Session:
         if told.get("box") == "information":
             return SAVED
         return told.get("number") or int(re.search(r"\d+", told["text"]).group())
-
-    def end(self):
-        with contextlib.suppress(BrokenPipeError):
-            self.process.stdin.close()
-        self.process.stdout.close()
-        return self.process.wait()
 
 
 def what_lies(file, old, new):
