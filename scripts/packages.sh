@@ -12,6 +12,7 @@ declare -A PACKAGES=(
   [package]="lintian"
   [display]="xvfb xauth xdotool"
   [try-package]="mmdebstrap xvfb xdotool imagemagick x11-utils"
+  [hostile]="python3"
   [real-disk]="python3 strace e2fsprogs"
   [windows-logic]="g++-mingw-w64-x86-64-posix wine wine64 cmake ninja-build nlohmann-json3-dev googletest python3"
   [windows]="qt6-base-dev qt6-base-dev-tools dpkg-dev nsis unzip fonts-wine xvfb xdotool imagemagick python3"

@@ -1,5 +1,5 @@
 // Files of a hostile size end in their defined way. Those that take long or much memory are played
-// by a program of their own, wheelwright-hostile, which also prints what they take.
+// by tools/hostile, which also holds them to what they may take.
 #include "support/TableTexts.h"
 #include "support/TestSession.h"
 #include "support/VehicleTokens.h"
