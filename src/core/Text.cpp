@@ -27,7 +27,7 @@ std::string FoldedCase(std::string_view text) {
 }
 
 std::size_t FindIgnoringCase(std::string_view text, std::string_view folded, std::size_t from) {
-  if (from > text.size()) return std::string_view::npos;
+  if (from + folded.size() > text.size()) return std::string_view::npos;
   if (folded.empty()) return from;
   const auto sameLetter = [](char inWord, char inText) { return FoldCase(inText) == inWord; };
   const bool oneShape = IsTheOnlyShapeOf(folded.front());
