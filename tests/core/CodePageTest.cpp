@@ -1,9 +1,7 @@
 #include "core/CodePage.h"
-#include "support/Generators.h"
 
 #include <array>
 #include <gtest/gtest.h>
-#include <rapidcheck/gtest.h>
 #include <string>
 #include <utility>
 
@@ -104,16 +102,6 @@ TEST(CodePageTest, EveryCapitalLetterFoldsToItsSmallOneAndNothingElseFolds) {
     const char folded = place == std::string::npos ? letter : smallOnes[place];
     EXPECT_EQ(FoldCase(letter), folded) << byte;
   }
-}
-
-RC_GTEST_PROP(CodePageLaw, EveryTextSurvivesTheWayToTheScreenAndBack, ()) {
-  const std::string bytes = *AnyBytes();
-  RC_ASSERT(FromUnicode(ToUnicode(bytes)) == bytes);
-}
-
-RC_GTEST_PROP(CodePageLaw, WhatCameFromUnicodeOnceStaysAsItIs, ()) {
-  const std::string bytes = FromUnicode(*AnyBytes());
-  RC_ASSERT(FromUnicode(ToUnicode(bytes)) == bytes);
 }
 
 }  // namespace

@@ -5,7 +5,6 @@
 #include <cmath>
 #include <cstddef>
 #include <gtest/gtest.h>
-#include <rapidcheck/gtest.h>
 #include <string>
 #include <utility>
 
@@ -155,17 +154,6 @@ TEST(NumbersTest, ACounterOverflowsOnTheStepPast32767) {
   EXPECT_EQ(counter.Value(), 32767);
   EXPECT_EQ(NumberThrownBy([&] { counter.Step(); }), kOverflow);
   EXPECT_EQ(counter.Value(), 32767);
-}
-
-RC_GTEST_PROP(NumbersLaw, EveryWholeNumberOf16BitsComesBack, ()) {
-  const int number = *rc::gen::inRange(-32768, 32768);
-  RC_ASSERT(ToInteger16(std::to_string(number)) == number);
-}
-
-RC_GTEST_PROP(NumbersLaw, TenthsAreRoundedAsTheProcessorRounds, ()) {
-  const int tenths = *rc::gen::inRange(-327680, 327671);
-  const std::string text = std::to_string(tenths) + "e-1";
-  RC_ASSERT(ToInteger16(text) == static_cast<int>(std::nearbyint(tenths / 10.0)));
 }
 
 }  // namespace

@@ -1,8 +1,6 @@
 #include "core/TextIndex.h"
-#include "support/Generators.h"
 
 #include <gtest/gtest.h>
-#include <rapidcheck/gtest.h>
 #include <string>
 #include <vector>
 
@@ -45,16 +43,6 @@ TEST(TextIndexTest, TextsAreComparedByteForByte) {
   EXPECT_EQ(index.First("bus"), TextIndex::kNone);
   EXPECT_EQ(index.First("BU"), TextIndex::kNone);
   EXPECT_EQ(index.First("BUSX"), TextIndex::kNone);
-}
-
-RC_GTEST_PROP(TextIndexLaw, TheIndexTellsWhatAWalkFinds, ()) {
-  const auto texts = *rc::gen::container<std::vector<std::string>>(TextOf("ab"));
-  const std::string wanted = *TextOf("ab");
-  std::vector<int> walked;
-  for (std::size_t i = 0; i < texts.size(); ++i) {
-    if (texts[i] == wanted) walked.push_back(static_cast<int>(i));
-  }
-  RC_ASSERT(PositionsOf(wanted, IndexOf(texts)) == walked);
 }
 
 }  // namespace

@@ -1,9 +1,7 @@
 #include "core/CodePage.h"
 #include "core/Text.h"
-#include "support/Generators.h"
 
 #include <gtest/gtest.h>
-#include <rapidcheck/gtest.h>
 #include <string>
 
 namespace wheelwright::testing {
@@ -12,7 +10,6 @@ namespace {
 constexpr std::size_t kNowhere = std::string_view::npos;
 
 // Few letters, with capitals, an umlaut in both forms and what lies around the letters.
-rc::Gen<std::string> FewLetters() { return TextOf("abAB[\xC4\xE4"); }
 
 TEST(TextTest, BlanksAreCutAtBothEndsOnly) {
   EXPECT_EQ(TrimBlanks("   a  b "), "a  b");
@@ -79,40 +76,6 @@ TEST(TextTest, AShorterTextStandsBeforeItsContinuations) {
   EXPECT_GT(CompareIgnoringCase("busx", "BUS"), 0);
   EXPECT_LT(CompareIgnoringCase("", "a"), 0);
   EXPECT_LT(CompareIgnoringCase("a", std::string("a\0", 2)), 0);
-}
-
-RC_GTEST_PROP(TextLaw, TheOrderIsThatOfTheFoldedBytes, ()) {
-  const std::string left = *FewLetters();
-  const std::string right = *FewLetters();
-  const int order = CompareIgnoringCase(left, right);
-  const int folded = FoldedCase(left).compare(FoldedCase(right));
-  RC_ASSERT((order < 0) == (folded < 0));
-  RC_ASSERT((order > 0) == (folded > 0));
-  RC_ASSERT(EqualsIgnoringCase(left, right) == (folded == 0));
-}
-
-RC_GTEST_PROP(TextLaw, TheOrderIsTotal, ()) {
-  const std::string a = *AnyBytes();
-  const std::string b = *FewLetters();
-  const std::string c = *FewLetters();
-  RC_ASSERT(CompareIgnoringCase(a, a) == 0);
-  RC_ASSERT(CompareIgnoringCase(a, b) == -CompareIgnoringCase(b, a));
-  const bool rises = CompareIgnoringCase(a, b) <= 0 && CompareIgnoringCase(b, c) <= 0;
-  RC_ASSERT(!rises || CompareIgnoringCase(a, c) <= 0);
-}
-
-RC_GTEST_PROP(TextLaw, ASearchFindsWhatAPlainSearchFindsInTheFoldedText, ()) {
-  const std::string text = *FewLetters();
-  const std::string word = FoldedCase(*FewLetters());
-  const auto from = static_cast<std::size_t>(*rc::gen::inRange(0, 12));
-  RC_ASSERT(FindIgnoringCase(text, word, from) == FoldedCase(text).find(word, from));
-}
-
-RC_GTEST_PROP(TextLaw, AWordThatIsInTheTextIsFound, ()) {
-  const std::string before = *TextOf("xy");
-  const std::string word = *rc::gen::nonEmpty(FewLetters());
-  const std::string text = before + word + *FewLetters();
-  RC_ASSERT(FindIgnoringCase(text, FoldedCase(word)) == before.size());
 }
 
 }  // namespace

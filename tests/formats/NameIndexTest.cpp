@@ -1,10 +1,7 @@
 #include "formats/NameIndex.h"
-#include "support/PlainWalk.h"
 
 #include <gtest/gtest.h>
 #include <ostream>
-#include <rapidcheck.h>
-#include <rapidcheck/gtest.h>
 
 namespace wheelwright {
 
@@ -82,32 +79,6 @@ TEST(NameIndexTest, OneIndexServesManyLines) {
     EXPECT_EQ(index.Anywhere("a taxi and a bus"), (Hits{{0, false}, {1, false}}));
     EXPECT_EQ(index.Beginning("TAXI"), (Hits{{1, true}}));
   }
-}
-
-// Few letters, so that names are often equal, the beginning of each other, or inside a line.
-rc::Gen<std::string> FewLetters() {
-  return rc::gen::container<std::string>(
-      rc::gen::elementOf(std::string("aAbB\xC4\xE4\x8A\x9A\x9F\xFF% \xD7\xF7")));
-}
-
-rc::Gen<Names> SomeNames() { return rc::gen::container<Names>(FewLetters()); }
-
-RC_GTEST_PROP(NameIndexLaw, TheIndexFindsWhatAPlainWalkFinds, ()) {
-  const Names names = *SomeNames();
-  const Names lines = *SomeNames();
-  NameIndex index(names);
-  for (const std::string& line : lines) {
-    RC_ASSERT(index.Beginning(line) == WalkForBeginnings(names, line));
-    RC_ASSERT(index.Anywhere(line) == WalkForNamesAnywhere(names, line));
-  }
-}
-
-RC_GTEST_PROP(NameIndexLaw, EveryNameIsFoundInALineThatHoldsIt, (const std::string& before)) {
-  const Names names = *rc::gen::nonEmpty(rc::gen::container<Names>(rc::gen::string<std::string>()));
-  const std::string line = before + *rc::gen::elementOf(names) + "rest";
-  NameIndex index(names);
-  RC_ASSERT(index.Beginning(line) == WalkForBeginnings(names, line));
-  RC_ASSERT(index.Anywhere(line) == WalkForNamesAnywhere(names, line));
 }
 
 }  // namespace

@@ -1,12 +1,7 @@
 #include "formats/Tokenisers.h"
-#include "support/DefinitionReference.h"
-#include "support/Generators.h"
-#include "support/HandlingReference.h"
 #include "support/Thrown.h"
 
 #include <gtest/gtest.h>
-#include <rapidcheck.h>
-#include <rapidcheck/gtest.h>
 #include <string>
 #include <vector>
 
@@ -89,23 +84,6 @@ TEST(CommaLineTest, FailsAtAnyNumberOfFieldsBeyondThat) {
   EXPECT_EQ(NumberThrownBy([&] { line.CountCommaFields(); }), kOverflow);
 }
 
-// A step on a line: -2 counts, everything else takes the field of that index.
-constexpr int kCount = -2;
-
-RC_GTEST_PROP(CommaLineTest, GivesWhatPlainSplittingGivesInAnyOrderOfCalls, ()) {
-  std::string plain = *TextOf("ab,,,, \t\xFC");
-  const auto steps = *rc::gen::container<std::vector<int>>(rc::gen::inRange(kCount, 9));
-  CommaLine line(plain);
-  for (const int step : steps) {
-    if (step == kCount) {
-      plain = WithoutBlanksAndTabs(plain);
-      RC_ASSERT(line.CountCommaFields() == static_cast<int>(SplitAtCommas(plain).size()));
-    } else {
-      RC_ASSERT(line.GetCommaField(step) == TakeCommaField(plain, static_cast<std::size_t>(step)));
-    }
-  }
-}
-
 TEST(SpaceLineTest, GivesTheFieldsBetweenBlanksAndTabs) {
   const SpaceLine line("  #\t7 \t navy  blue,a\t");
   EXPECT_EQ(line.CountSpaceFields(), 4);
@@ -125,16 +103,6 @@ TEST(SpaceLineTest, BlanksBehindTheEndOfALineAreNotItsOwn) {
   const std::string_view text = "BUS  7 8  9";
   EXPECT_EQ(SpaceLine(text.substr(0, 4)).CountSpaceFields(), 1);
   EXPECT_EQ(SpaceLine(text.substr(0, 6)).CountSpaceFields(), 2);
-}
-
-RC_GTEST_PROP(SpaceLineTest, GivesWhatPlainSplittingGives, ()) {
-  const std::string text = *TextOf("ab  \t\n");
-  const std::vector<std::string> plain = PlainTokens(text);
-  const SpaceLine line(text);
-  RC_ASSERT(line.CountSpaceFields() == static_cast<int>(plain.size()));
-  for (std::size_t i = 0; i < plain.size() && i < 33; ++i) {
-    RC_ASSERT(line.GetSpaceField(static_cast<int>(i)) == plain[i]);
-  }
 }
 
 TEST(CleanedLineTest, LeavesSingleBlanksBetweenTheFieldsAndNoneAtTheEnds) {

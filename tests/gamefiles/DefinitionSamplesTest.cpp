@@ -1,6 +1,6 @@
 // The definition and colour files of samples/.
 #include "core/DiskFiles.h"
-#include "support/HandlingReference.h"
+#include "oracle/PlainTexts.h"
 #include "support/TableTexts.h"
 #include "support/TestSession.h"
 

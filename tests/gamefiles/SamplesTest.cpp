@@ -1,7 +1,8 @@
 // The sample handling files: what a save changes in a real one, and what the list of load problems
 // says about a bad one.
 #include "core/DiskFiles.h"
-#include "support/HandlingReference.h"
+#include "oracle/HandlingReference.h"
+#include "oracle/PlainTexts.h"
 #include "support/TableTexts.h"
 #include "support/TestSession.h"
 #include "support/VehicleTokens.h"
@@ -41,8 +42,7 @@ Texts SortedVehicleLines(const std::string& sample) {
   Texts lines;
   for (const std::string& line : PlainLines(sample)) {
     if (IsForeign(line)) continue;
-    const PlainHandling read = ReadPlainly(line);
-    lines.push_back(PlainLines(WritePlainly("x", read.names, read.records, "", ""))[2]);
+    lines.push_back(PlainLines(VehicleLinesPlainly(ReadPlainly(line)))[0]);
   }
   std::sort(lines.begin(), lines.end());
   return lines;

@@ -1,8 +1,8 @@
 // What holds for any sequence of edits of the palette and the pairs.
 #include "catalogue/Palette.h"
-#include "support/ColorReference.h"
-#include "support/Generators.h"
-#include "support/PaletteModel.h"
+#include "oracle/AnyDice.h"
+#include "oracle/ColorReference.h"
+#include "oracle/PaletteModel.h"
 #include "support/TableRecords.h"
 #include "support/TableTexts.h"
 #include "support/TestSession.h"

@@ -7,8 +7,10 @@
 
 namespace wheelwright::testing {
 
+// None while the table is unallocated.
 template <class Record>
 std::vector<Record> RecordsOf(const Table<Record>& table) {
+  if (!table.IsAllocated()) return {};
   const RecordWalk<Record> walk = table.Walk();
   return {walk.begin(), walk.end()};
 }

@@ -1,50 +1,41 @@
 // Takes lines and texts apart. The first line of the input says how: "comma", "space", "handling",
 // "number", "index", "letters" or "text"; any other first byte chooses one of them too.
 #include "fuzz/FuzzInput.h"
-#include "fuzz/LineLaws.h"
-#include "fuzz/NameLaws.h"
-#include "fuzz/NumberLaws.h"
-#include "fuzz/TextLaws.h"
+#include "oracle/LineLaws.h"
+#include "oracle/NameLaws.h"
+#include "oracle/NumberLaws.h"
+#include "oracle/TextLaws.h"
 
-#include <cstddef>
-#include <cstdint>
-#include <string>
-#include <string_view>
+namespace wheelwright {
 
-namespace wheelwright::fuzz {
-namespace {
+using namespace testing;
 
-constexpr std::string_view kFirstLetters = "cshnilt";
-
-void TakeApart(FuzzInput input) {
+void fuzz::Try(FuzzInput input) {
+  constexpr std::string_view kFirstLetters = "cshnilt";
   const std::string how = input.Take();
   const char first = how.empty() ? 'c' : how.front();
   const std::size_t letter = kFirstLetters.find(first);
   const std::size_t any = static_cast<unsigned char>(first) % kFirstLetters.size();
+  const char chosen = kFirstLetters[letter == std::string_view::npos ? any : letter];
+  if (chosen == 'i') {
+    const std::vector<std::string> names = input.TakeLines();
+    return RequireNameLaws(names, input.TakeLines());
+  }
   const std::string text = input.Take();
-  const std::string other = input.Take();
-  switch (kFirstLetters[letter == std::string_view::npos ? any : letter]) {
+  switch (chosen) {
     case 'c':
-      return RequireCommaLaws(text, other);
+      return RequireCommaLaws(text, input.Take());
     case 's':
       return RequireSpaceLaws(text);
     case 'h':
-      return RequireHandlingLaws(text);
+      return RequireTokenLaws(text);
     case 'n':
       return RequireNumberLaws(text);
-    case 'i':
-      return RequireNameLaws(PartsOf(text, '\n'), other);
     case 'l':
       return RequireLetterLaws(text);
     default:
-      return RequireTextLaws(text, other);
+      return RequireTextLaws(text, input.Take());
   }
 }
 
-}  // namespace
-}  // namespace wheelwright::fuzz
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  wheelwright::fuzz::TakeApart(wheelwright::fuzz::FuzzInput(data, size));
-  return 0;
-}
+}  // namespace wheelwright

@@ -1,5 +1,6 @@
 #include "soak/Laws.h"
 
+#include "oracle/PlainTexts.h"
 #include "replay/Names.h"
 #include "support/VehicleTokens.h"
 
@@ -91,20 +92,21 @@ bool WorksOnShownRecord(Session& session, const Step& step, const Shown& shown) 
 
 void CheckEnd(Session& session, const Step& step, const StepResult& result, const Shown& shown) {
   if (result.End() == "quit") {
-    Must(step.control == "cmdEnde" || step.control == "frmMain", "the program has ended unasked");
+    Require(step.control == "cmdEnde" || step.control == "frmMain",
+            "the program has ended unasked");
   } else {
-    Must(!kNeverEndingByFailure.contains(step.control), "a failure has left a guarded handler");
-    Must(!WorksOnShownRecord(session, step, shown), "a failure has left an edit");
+    Require(!kNeverEndingByFailure.contains(step.control), "a failure has left a guarded handler");
+    Require(!WorksOnShownRecord(session, step, shown), "a failure has left an edit");
   }
 }
 
 void CheckNothingHappened(const SessionState& before, const SessionState& after,
                           const std::string& what) {
-  Must(after.working == before.working, what + " has changed the tables");
-  Must(after.snapshot == before.snapshot, what + " has changed the snapshots");
-  Must(after.isSaved == before.isSaved, what + " has changed IsSaved");
-  Must(after.file == before.file, what + " has changed CurrentFile");
-  Must(after.disk == before.disk, what + " has changed the disk");
+  Require(after.working == before.working, what + " has changed the tables");
+  Require(after.snapshot == before.snapshot, what + " has changed the snapshots");
+  Require(after.isSaved == before.isSaved, what + " has changed IsSaved");
+  Require(after.file == before.file, what + " has changed CurrentFile");
+  Require(after.disk == before.disk, what + " has changed the disk");
 }
 
 void CheckWhatMayChange(const Step& step, const StepResult& result, const SessionState& before,
@@ -112,23 +114,23 @@ void CheckWhatMayChange(const Step& step, const StepResult& result, const Sessio
   const bool opens = step.control == "cmdOpen";
   const bool saves = step.control == "cmdSave" || step.control == "cmdSaveAs";
   if (!opens && !saves) {
-    Must(after.snapshot == before.snapshot, "the snapshots have changed");
-    Must(before.isSaved || !after.isSaved, "IsSaved has become true");
+    Require(after.snapshot == before.snapshot, "the snapshots have changed");
+    Require(before.isSaved || !after.isSaved, "IsSaved has become true");
   }
   if (!opens && step.control != "cmdSaveAs")
-    Must(after.file == before.file, "CurrentFile has changed");
+    Require(after.file == before.file, "CurrentFile has changed");
   if (kEditingNothing.contains(step.control))
-    Must(after.working == before.working, "the tables have changed");
+    Require(after.working == before.working, "the tables have changed");
   if (kEditingNothing.contains(step.control) && !saves)
-    Must(after.isSaved == before.isSaved, "IsSaved has changed");
-  if (kAlwaysEditing.contains(step.control)) Must(!after.isSaved, "IsSaved after a choice");
+    Require(after.isSaved == before.isSaved, "IsSaved has changed");
+  if (kAlwaysEditing.contains(step.control)) Require(!after.isSaved, "IsSaved after a choice");
   const bool displays = step.control == "cmbAutos" || step.control == "cmbSprache";
-  if (displays) Must(after.isSaved == before.isSaved, "a display has changed IsSaved");
+  if (displays) Require(after.isSaved == before.isSaved, "a display has changed IsSaved");
   if (opens || saves || displays || step.control == "cmdUndo" || step.control == "chkFlag3") return;
   if (result.ShowedError()) return;
   const bool isEdited =
       after.working != before.working || after.author != before.author || after.date != before.date;
-  if (isEdited) Must(!after.isSaved, "IsSaved after an edit");
+  if (isEdited) Require(!after.isSaved, "IsSaved after an edit");
 }
 
 void CheckCommand(const Moment& moment, const ExpectedHandling* handling) {
@@ -156,16 +158,16 @@ void Laws::Before(const Step& step) {
   expectedHandling_.reset();
   const std::string name = folder_.NameOf(step.File());
   if (step.Clicks("cmdOpen") && held_.disk.contains(name)) {
-    const auto read = testing::ReadPlainly(TextForReader(held_.disk, name));
+    const auto read = testing::ReadPlainly(testing::NormalisedPlainly(held_.disk.at(name)));
     expectedHandling_ = {read, testing::RowsOf(read.problems, stage_.session.main)};
   }
 }
 
 void Laws::After(const Step& step, const StepResult& result) {
   if (!result.WasRefused())
-    Must(result.Asked() == step.answers.size(), "the program has asked something else");
+    Require(result.Asked() == step.answers.size(), "the program has asked something else");
   if (!result.End().empty()) return CheckEnd(stage_.session, step, result, shown_);
-  Must(stage_.desktop.CurrentPointer() == Pointer::Normal, "the hourglass stays");
+  Require(stage_.desktop.CurrentPointer() == Pointer::Normal, "the hourglass stays");
   const bool reachesDisk = kReachingTheDisk.contains(step.control) && !result.WasRefused();
   SessionState after = StateOf(stage_.session, reachesDisk ? folder_.Contents() : held_.disk);
   const Moment moment{step, result, held_, after, stage_.session, folder_};
@@ -184,7 +186,7 @@ void Laws::After(const Step& step, const StepResult& result) {
 
 void Laws::AtEnd() {
   const bool hasEnded = stage_.desktop.EndWasAsked() || stage_.edge.HasFailed();
-  if (!hasEnded) Must(folder_.Contents() == held_.disk, "something has written unasked");
+  if (!hasEnded) Require(folder_.Contents() == held_.disk, "something has written unasked");
 }
 
 void Laws::NoteWhatIsShown(const Moment& moment) {

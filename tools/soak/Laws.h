@@ -1,13 +1,13 @@
 // What must hold after every step of a session, whatever the person did.
 #pragma once
 
+#include "oracle/HandlingReference.h"
 #include "replay/Stage.h"
 #include "soak/Folder.h"
 #include "soak/Moment.h"
 #include "soak/SessionState.h"
 #include "soak/Step.h"
 #include "soak/StepResult.h"
-#include "support/HandlingReference.h"
 
 #include <optional>
 

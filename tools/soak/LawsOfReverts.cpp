@@ -1,4 +1,5 @@
 // Displays, reverts, and the vehicles that come and go.
+#include "oracle/ColorReference.h"
 #include "soak/Moment.h"
 
 #include <algorithm>
@@ -14,32 +15,12 @@ std::size_t FirstNamed(const std::vector<Record>& records, std::string Record::*
   return found == records.end() ? 0 : static_cast<std::size_t>(found - records.begin());
 }
 
-// The name that a number of a pair finds, or the one before it; a nameless one goes to colour 0.
-void Name(const std::vector<ColorEntry>& colors, std::int16_t& number, std::string& name) {
-  for (const ColorEntry& color : colors) {
-    if (color.Index == number) name = color.ColorName;
-  }
-}
-
-void Repair(const std::vector<ColorEntry>& colors, std::int16_t& number, std::string& name) {
-  if (!name.empty()) return;
-  number = colors.front().Index;
-  name = colors.front().ColorName;
-}
-
 std::vector<std::string> DisplayPairs(Tables& tables, const std::string& key) {
   std::vector<std::string> rows;
   for (CarColorEntry& entry : tables.carColors) {
     if (entry.ModelName != key) continue;
-    std::string first;
-    std::string second;
-    for (std::size_t i = 0; i < entry.Color1.size(); ++i) {
-      Name(tables.colors, entry.Color1[i], first);
-      Name(tables.colors, entry.Color2[i], second);
-      Repair(tables.colors, entry.Color1[i], first);
-      Repair(tables.colors, entry.Color2[i], second);
-      rows.push_back(first + " - " + second);
-    }
+    const std::vector<std::string> shown = testing::ShowPairsPlainly(tables.colors, entry);
+    rows.insert(rows.end(), shown.begin(), shown.end());
   }
   return rows;
 }
@@ -68,16 +49,17 @@ void CheckDisplay(const Moment& moment, Tables expected) {
   const std::string key = moment.session.main.cmbAutos.Text();
   if (vars.CurrentFileType == kHandlingFile) {
     const std::size_t index = FirstNamed(expected.cars, &Car::CarName, key);
-    Must(vars.CurrentCar == static_cast<int>(index), "CurrentCar isn't the chosen vehicle");
+    Require(vars.CurrentCar == static_cast<int>(index), "CurrentCar isn't the chosen vehicle");
     Display(expected.cars.at(index));
   } else if (vars.CurrentFileType == kDefinitionFile) {
     const std::size_t index = FirstNamed(expected.ides, &IdeEntry::HandlingID, key);
-    Must(vars.CurrentIde == static_cast<int>(index), "CurrentIde isn't the chosen vehicle");
+    Require(vars.CurrentIde == static_cast<int>(index), "CurrentIde isn't the chosen vehicle");
   } else {
     const std::vector<std::string> rows = DisplayPairs(expected, key);
-    Must(moment.session.main.lstCarColors.Rows() == rows, "lstCarColors isn't the vehicle's pairs");
+    Require(moment.session.main.lstCarColors.Rows() == rows,
+            "lstCarColors isn't the vehicle's pairs");
   }
-  Must(moment.after.working == expected, "a display has changed the tables");
+  Require(moment.after.working == expected, "a display has changed the tables");
 }
 
 void CheckRevert(const Moment& moment) {
@@ -90,27 +72,28 @@ void CheckRevert(const Moment& moment) {
     expected.colors = snapshot.colors;
     expected.carColors = snapshot.carColors;
   }
-  Must(after.isSaved == moment.before.isSaved, "a revert has changed IsSaved");
-  Must(after.vehicles == KeysOf(expected, after.fileType), "cmbAutos isn't the snapshot's keys");
-  Must(moment.session.main.cmbAutos.Row() == 0, "a revert doesn't show the first vehicle");
+  Require(after.isSaved == moment.before.isSaved, "a revert has changed IsSaved");
+  Require(after.vehicles == KeysOf(expected, after.fileType), "cmbAutos isn't the snapshot's keys");
+  Require(moment.session.main.cmbAutos.Row() == 0, "a revert doesn't show the first vehicle");
   CheckDisplay(moment, std::move(expected));
 }
 
 void CheckAddedVehicle(const Moment& moment) {
   const std::vector<Car>& cars = moment.after.working.cars;
   const std::size_t count = moment.before.working.cars.size() + 1;
-  Must(cars.size() == count, "a new vehicle isn't one more record");
-  Must(cars.back().CarName == "NEWCAR" + std::to_string(count), "a new vehicle has another name");
-  Must(moment.after.vehicles.size() == moment.before.vehicles.size() + 1,
-       "a new vehicle isn't one more row");
-  Must(!moment.after.isSaved, "IsSaved after a new vehicle");
+  Require(cars.size() == count, "a new vehicle isn't one more record");
+  Require(cars.back().CarName == "NEWCAR" + std::to_string(count),
+          "a new vehicle has another name");
+  Require(moment.after.vehicles.size() == moment.before.vehicles.size() + 1,
+          "a new vehicle isn't one more row");
+  Require(!moment.after.isSaved, "IsSaved after a new vehicle");
 }
 
 void CheckDeletedVehicle(const Moment& moment) {
-  Must(moment.after.vehicles.size() + 1 == moment.before.vehicles.size(),
-       "a deleted vehicle isn't one row less");
-  Must(!moment.after.isSaved, "IsSaved after a deletion");
-  Must(moment.session.main.cmbAutos.Row() == 0, "a deletion doesn't show the first vehicle");
+  Require(moment.after.vehicles.size() + 1 == moment.before.vehicles.size(),
+          "a deleted vehicle isn't one row less");
+  Require(!moment.after.isSaved, "IsSaved after a deletion");
+  Require(moment.session.main.cmbAutos.Row() == 0, "a deletion doesn't show the first vehicle");
 }
 
 }  // namespace wheelwright::soak

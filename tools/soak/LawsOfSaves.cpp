@@ -1,7 +1,7 @@
 // What a save or backup leaves on the disk, held against the plain writers.
+#include "oracle/ColorReference.h"
+#include "oracle/DefinitionReference.h"
 #include "soak/Moment.h"
-#include "support/ColorReference.h"
-#include "support/DefinitionReference.h"
 
 namespace wheelwright::soak {
 namespace {
@@ -19,8 +19,8 @@ Files ExpectedDisk(const Moment& moment, const std::string& template_, const std
   const Tables& tables = before.working;
   Files disk = before.disk;
   if (before.fileType == kHandlingFile) {
-    disk[target] = testing::WritePlainly(disk[template_], before.vehicles, tables.cars,
-                                         before.author, before.date) +
+    disk[target] = testing::WritePlainly(disk[template_], {before.vehicles, tables.cars,
+                                                           before.author, before.date}) +
                    kLineEnd;
   } else if (before.fileType == kDefinitionFile) {
     disk[target] = testing::WriteDefinitionsPlainly(disk[template_], tables.ides) + kLineEnd;
@@ -46,7 +46,7 @@ void CheckSnapshots(const Moment& moment) {
     expected.colors = after.working.colors;
     expected.carColors = after.working.carColors;
   }
-  Must(after.snapshot == expected, "the snapshots after a save aren't the tables");
+  Require(after.snapshot == expected, "the snapshots after a save aren't the tables");
 }
 
 }  // namespace
@@ -57,22 +57,22 @@ void CheckSave(const Moment& moment) {
   const bool isSaveAs = moment.step.Clicks("cmdSaveAs");
   const std::string source = moment.folder.NameOf(before.file);
   const std::string target = isSaveAs ? moment.folder.NameOf(moment.step.File()) : source;
-  Must(after.working == before.working, "a save has changed the tables");
+  Require(after.working == before.working, "a save has changed the tables");
   if (!before.disk.contains(source)) {
-    Must(after.disk == before.disk, "a save without its template has written");
-    Must(after.isSaved == before.isSaved, "a save without its template has changed IsSaved");
+    Require(after.disk == before.disk, "a save without its template has written");
+    Require(after.isSaved == before.isSaved, "a save without its template has changed IsSaved");
     return;
   }
   if (!HasTables(before)) return;
   if (!IsWritable(moment, target)) {
-    Must(isSaveAs && moment.result.ShowedError(), "a save that can't be says nothing");
-    Must(after.isSaved == before.isSaved, "a failed save has changed IsSaved");
-    Must(after.file == before.file, "a failed save has changed CurrentFile");
+    Require(isSaveAs && moment.result.ShowedError(), "a save that can't be says nothing");
+    Require(after.isSaved == before.isSaved, "a failed save has changed IsSaved");
+    Require(after.file == before.file, "a failed save has changed CurrentFile");
     return;
   }
-  Must(after.isSaved, "IsSaved is false after a save");
-  Must(after.disk == ExpectedDisk(moment, source, target), "a save has written something else");
-  Must(after.file == moment.folder.PathOf(target), "CurrentFile isn't the saved file");
+  Require(after.isSaved, "IsSaved is false after a save");
+  Require(after.disk == ExpectedDisk(moment, source, target), "a save has written something else");
+  Require(after.file == moment.folder.PathOf(target), "CurrentFile isn't the saved file");
   CheckSnapshots(moment);
 }
 
@@ -81,7 +81,7 @@ void CheckBackup(const Moment& moment) {
   Files expected = before.disk;
   const std::string source = moment.folder.NameOf(before.file);
   if (before.disk.contains(source)) expected[source + ".backup"] = before.disk.at(source);
-  Must(moment.after.disk == expected, "a backup isn't a copy of the file");
+  Require(moment.after.disk == expected, "a backup isn't a copy of the file");
 }
 
 }  // namespace wheelwright::soak

@@ -1,28 +1,20 @@
 // A step with what was before and after it, for the laws to look at.
 #pragma once
 
+#include "oracle/HandlingReference.h"
+#include "oracle/Law.h"
 #include "screen/Session.h"
 #include "soak/Folder.h"
 #include "soak/SessionState.h"
 #include "soak/Step.h"
 #include "soak/StepResult.h"
-#include "support/HandlingReference.h"
 
 #include <cstddef>
-#include <stdexcept>
 #include <string>
 
 namespace wheelwright::soak {
 
-class LawBroken : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
-
-// Throws LawBroken with the law unless it holds.
-inline void Must(bool holds, const std::string& law) {
-  if (!holds) throw LawBroken(law);
-}
+using testing::Require;
 
 inline constexpr std::size_t kFlagDigits = 7;
 
@@ -52,8 +44,6 @@ struct Moment {
 // After a click on cmdOpen that was not declined. `handling` is what the plain reader makes of the
 // chosen file, null if it is no handling file that is there.
 void CheckOpen(const Moment& moment, const ExpectedHandling* handling);
-// The chosen file as its reader finds it, with its line ends put right.
-std::string TextForReader(const Files& disk, const std::string& name);
 
 void CheckSave(const Moment& moment);
 void CheckBackup(const Moment& moment);

@@ -1,8 +1,8 @@
 // Somebody at the program who does this and that, seldom wisely.
 #pragma once
 
+#include "oracle/Dice.h"
 #include "screen/Session.h"
-#include "soak/Dice.h"
 #include "soak/Folder.h"
 #include "soak/Step.h"
 
@@ -10,7 +10,7 @@ namespace wheelwright::soak {
 
 class Person {
  public:
-  Person(Dice& dice, Session& session, const Folder& folder)
+  Person(testing::Dice& dice, Session& session, const Folder& folder)
       : dice_(dice), session_(session), folder_(folder) {}
 
   // The next thing to do, with the answers that it needs.
@@ -24,7 +24,7 @@ class Person {
   Step AnythingAnywhere();
   Step CloseSomething();
 
-  Dice& dice_;
+  testing::Dice& dice_;
   Session& session_;
   const Folder& folder_;
 };

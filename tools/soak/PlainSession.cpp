@@ -1,8 +1,8 @@
 #include "soak/PlainSession.h"
 
+#include "oracle/Dice.h"
 #include "replay/PlainScreen.h"
 #include "replay/Player.h"
-#include "soak/Dice.h"
 #include "soak/Laws.h"
 #include "soak/Person.h"
 #include "soak/RandomFiles.h"
@@ -95,7 +95,7 @@ class PlainSession {
     player_.PlayLine(line);
   }
 
-  Dice dice_;
+  testing::Dice dice_;
   Questions questions_;
   const Folder& folder_;
   std::ostringstream result_;

@@ -33,25 +33,25 @@ std::vector<std::string> NamesInData(const Folder& folder) {
   return names;
 }
 
-std::string NewName(Dice& dice) {
+std::string NewName(testing::Dice& dice) {
   return dice.OneOf({"data/new.cfg", "data/new.ide", "data/new.dat", "data/missing.cfg",
                      "data/none/x.cfg", "data/folder.cfg", "data/\u00E4 &.cfg"});
 }
 
-int FilterFor(Dice& dice, const std::string& name) {
+int FilterFor(testing::Dice& dice, const std::string& name) {
   if (dice.OneIn(20)) return dice.Below(5);
   if (name.find(".ide") != std::string::npos) return 2;
   return name.find(".dat") != std::string::npos ? 3 : 1;
 }
 
-Json OpenAnswer(Dice& dice, const Folder& folder) {
+Json OpenAnswer(testing::Dice& dice, const Folder& folder) {
   if (dice.OneIn(14)) return "cancel";
   const std::vector<std::string> names = NamesInData(folder);
   const std::string name = dice.OneIn(20) || names.empty() ? NewName(dice) : dice.OneOf(names);
   return {{"file", folder.PathOf(name)}, {"filter", FilterFor(dice, name)}};
 }
 
-Json SaveAnswer(Dice& dice, const Folder& folder) {
+Json SaveAnswer(testing::Dice& dice, const Folder& folder) {
   if (dice.OneIn(8)) return "cancel";
   const std::vector<std::string> names = NamesInData(folder);
   const std::string name = dice.OneIn(2) || names.empty() ? NewName(dice) : dice.OneOf(names);
@@ -62,7 +62,7 @@ Json SaveAnswer(Dice& dice, const Folder& folder) {
 
 class Asker {
  public:
-  Asker(Dice& dice, Session& session, const Folder& folder)
+  Asker(testing::Dice& dice, Session& session, const Folder& folder)
       : dice_(dice), session_(session), folder_(folder) {}
 
   void Prepare(Step& step) {
@@ -120,7 +120,7 @@ class Asker {
     if (!session_.vars.IsSaved) YesOrNo(step);
   }
 
-  Dice& dice_;
+  testing::Dice& dice_;
   Session& session_;
   const Folder& folder_;
 };
@@ -133,7 +133,7 @@ bool WillBeRefused(Session& session, const Step& step) {
 
 }  // namespace
 
-void PrepareAnswers(Dice& dice, Session& session, const Folder& folder, Step& step) {
+void PrepareAnswers(testing::Dice& dice, Session& session, const Folder& folder, Step& step) {
   if (!WillBeRefused(session, step)) Asker(dice, session, folder).Prepare(step);
 }
 

@@ -3,12 +3,27 @@
 #include "replay/Names.h"
 #include "screen/Controls.h"
 #include "screen/Lists.h"
-#include "soak/OddText.h"
 
 #include <array>
 
 namespace wheelwright::soak {
 namespace {
+
+constexpr std::array<const char*, 44> kPieces = {
+    "1500.0", "-0.5",   "0",      "1,5", "2e-3", " ",     "  ",      ",",      ";",
+    "#",      "%",      "!",      "$",   "-",    "\t",    "&",       "&&",     "\"",
+    "'",      "\\",     "\\n",    "/",   "<b>",  "ä",     "Ü",       "ß",      "€",
+    "Ž",      "ž",      "ÿ",      "Ÿ",   "→",    "😀",     "e\u0301", "אב",     "\u00A0",
+    "\u00AD", "\u200B", "NEWCAR", "BUS", "car",  "plane", "end",     "0000a00"};
+
+// What is typed into a box, UTF-8: numbers, words, marks of the file formats, letters of many
+// kinds.
+std::string TypedText(testing::Dice& dice) {
+  std::string text;
+  const int pieces = dice.OneIn(20) ? 9 : dice.Below(4);
+  for (int i = 0; i < pieces; ++i) text += dice.OneOf(kPieces);
+  return text;
+}
 
 Step StepAt(const Control& control, const std::string& verb, bool isForced) {
   Step step;
@@ -33,7 +48,7 @@ const Control& OutermostAround(const Control& control) {
   return *outermost;
 }
 
-Step Edit(Dice& dice, const TextBox& box, bool isForced) {
+Step Edit(testing::Dice& dice, const TextBox& box, bool isForced) {
   switch (dice.Below(4)) {
     case 0: {
       Step step = StepAt(box, "append", isForced);
@@ -53,15 +68,15 @@ Step Edit(Dice& dice, const TextBox& box, bool isForced) {
   }
 }
 
-std::optional<Step> ChooseRow(Dice& dice, const RowList& list, const char* verb, const char* part,
-                              bool isForced) {
+std::optional<Step> ChooseRow(testing::Dice& dice, const RowList& list, const char* verb,
+                              const char* part, bool isForced) {
   if (list.Count() == 0) return std::nullopt;
   Step step = StepAt(list, verb, isForced);
   step.action[part] = dice.Below(list.Count());
   return step;
 }
 
-Step Mark(Dice& dice, const MarkList& list, bool isForced) {
+Step Mark(testing::Dice& dice, const MarkList& list, bool isForced) {
   Step step = StepAt(list, "mark", isForced);
   step.action["rows"] = Json::array();
   for (int row = 0; row < list.Count(); ++row) {
@@ -100,7 +115,7 @@ std::vector<Control*> ControlsOnTabs(Session& session) {
   return controls;
 }
 
-std::optional<Step> RandomAction(Dice& dice, Control& control, bool isForced) {
+std::optional<Step> RandomAction(testing::Dice& dice, Control& control, bool isForced) {
   if (dynamic_cast<Button*>(&control) != nullptr) return Click(control, isForced);
   if (auto* box = dynamic_cast<TextBox*>(&control)) return Edit(dice, *box, isForced);
   if (dynamic_cast<CheckBox*>(&control) != nullptr)

@@ -1,8 +1,8 @@
 // Which controls of a session somebody can reach, and what can be done to them.
 #pragma once
 
+#include "oracle/Dice.h"
 #include "screen/Session.h"
-#include "soak/Dice.h"
 #include "soak/Step.h"
 
 #include <optional>
@@ -17,7 +17,7 @@ std::vector<Control*> AllControls(Session& session);
 std::vector<Control*> ControlsOnTabs(Session& session);
 
 // Some action at the control; nothing if it offers none now, as a list without rows.
-std::optional<Step> RandomAction(Dice& dice, Control& control, bool isForced);
+std::optional<Step> RandomAction(testing::Dice& dice, Control& control, bool isForced);
 
 Step Click(const Control& button, bool isForced = false);
 

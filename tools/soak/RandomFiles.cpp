@@ -1,42 +1,54 @@
 #include "soak/RandomFiles.h"
 
-#include "soak/OddText.h"
+#include "oracle/OddFiles.h"
+#include "oracle/OddTexts.h"
+
+#include <string>
+
+using namespace std::string_literals;
 
 namespace wheelwright::soak {
+namespace {
 
-std::string FileOf(Dice& dice, const std::vector<std::string>& lines) {
-  const int ending = dice.Below(14);
-  std::string text;
-  for (const std::string& line : lines) {
-    text += line;
-    if (ending == 0) {
-      text += '\n';
-    } else if (ending == 1) {
-      text += dice.OneOf({"\n", "\r\n", "\r"});
-    } else {
-      text += "\r\n";
-    }
-  }
-  if (ending == 2 && text.size() > 2) text.resize(text.size() - 2);
-  return text;
+// A bitmap of one colour with 24 bits a pixel.
+std::string Bitmap(int width, int height) {
+  const int stride = (width * 3 + 3) / 4 * 4;
+  const auto byte = [](int value, int place) { return static_cast<char>(value >> (8 * place)); };
+  const auto number = [&](int value) {
+    return std::string{byte(value, 0), byte(value, 1), byte(value, 2), byte(value, 3)};
+  };
+  return "BM" + number(54 + stride * height) + number(0) + number(54) + number(40) + number(width) +
+         number(height) + "\x01\0\x18\0"s + number(0) + number(stride * height) + number(0) +
+         number(0) + number(0) + number(0) +
+         std::string(static_cast<std::size_t>(stride * height), '\x40');
 }
 
-Files RandomFiles(Dice& dice) {
+// A picture, or what only claims to be one.
+std::string RandomPicture(testing::Dice& dice) {
+  if (dice.OneIn(4)) return "BM" + testing::AnyBytes(dice, 60);
+  if (dice.OneIn(8)) return "";
+  const int width = dice.Between(1, 9);
+  return Bitmap(width, dice.Between(1, 9));
+}
+
+}  // namespace
+
+Files RandomFiles(testing::Dice& dice) {
   Files files;
-  files["app/Aa.lng"] = RandomLanguage(dice, true);
-  if (!dice.OneIn(3)) files["app/Odd.lng"] = RandomLanguage(dice, false);
+  files["app/Aa.lng"] = testing::OddLanguage(dice, true);
+  if (!dice.OneIn(3)) files["app/Odd.lng"] = testing::OddLanguage(dice, false);
   if (dice.OneIn(2)) files["app/Anleitung.htm"] = "manual";
   if (dice.OneIn(2)) files["app/gfx/bus.bmp"] = RandomPicture(dice);
   if (dice.OneIn(3)) files["app/gfx/nopictureavailable.jpg"] = RandomPicture(dice);
-  files["data/handling.cfg"] = RandomHandlingFile(dice);
-  files["data/second.cfg"] = RandomHandlingFile(dice);
-  files["data/default.ide"] = RandomDefinitionFile(dice);
-  files["data/carcols.dat"] = RandomColorFile(dice);
-  files["data/swap.cfg"] = RandomExchangeFile(dice);
-  if (dice.OneIn(4)) files["data/second.dat"] = RandomColorFile(dice);
-  if (dice.OneIn(4)) files["data/odd.cfg.backup"] = RandomHandlingFile(dice);
-  if (dice.OneIn(4)) files["data/garbage.ide"] = AnyBytes(dice, 200);
-  if (dice.OneIn(8)) files["data/notes.TXT"] = AnyBytes(dice, 20);
+  files["data/handling.cfg"] = testing::OddHandlingFile(dice);
+  files["data/second.cfg"] = testing::OddHandlingFile(dice);
+  files["data/default.ide"] = testing::OddDefinitionFile(dice);
+  files["data/carcols.dat"] = testing::OddColorFile(dice);
+  files["data/swap.cfg"] = testing::OddExchangeFile(dice);
+  if (dice.OneIn(4)) files["data/second.dat"] = testing::OddColorFile(dice);
+  if (dice.OneIn(4)) files["data/odd.cfg.backup"] = testing::OddHandlingFile(dice);
+  if (dice.OneIn(4)) files["data/garbage.ide"] = testing::AnyBytes(dice, 200);
+  if (dice.OneIn(8)) files["data/notes.TXT"] = testing::AnyBytes(dice, 20);
   return files;
 }
 

@@ -1,6 +1,7 @@
 #include "soak/SessionState.h"
 
 #include "core/Text.h"
+#include "support/TableRecords.h"
 
 #include <algorithm>
 #include <utility>
@@ -10,10 +11,10 @@ namespace wheelwright::soak {
 SessionState StateOf(const Session& session, Files disk) {
   const Vars& vars = session.vars;
   SessionState held;
-  held.working = {RecordsIn(vars.Cars), RecordsIn(vars.Ides), RecordsIn(vars.Colors),
-                  RecordsIn(vars.CarColors)};
-  held.snapshot = {RecordsIn(vars.Kopie_Cars), RecordsIn(vars.Kopie_Ides),
-                   RecordsIn(vars.Kopie_Colors), RecordsIn(vars.Kopie_CarColors)};
+  held.working = {testing::RecordsOf(vars.Cars), testing::RecordsOf(vars.Ides),
+                  testing::RecordsOf(vars.Colors), testing::RecordsOf(vars.CarColors)};
+  held.snapshot = {testing::RecordsOf(vars.Kopie_Cars), testing::RecordsOf(vars.Kopie_Ides),
+                   testing::RecordsOf(vars.Kopie_Colors), testing::RecordsOf(vars.Kopie_CarColors)};
   held.file = vars.CurrentFile;
   held.fileType = vars.CurrentFileType;
   held.isSaved = vars.IsSaved;

@@ -35,14 +35,6 @@ struct SessionState {
 // `disk` is what the folder holds.
 SessionState StateOf(const Session& session, Files disk);
 
-// The records of a table, none while it is unallocated.
-template <class Record>
-std::vector<Record> RecordsIn(const Table<Record>& table) {
-  if (!table.IsAllocated()) return {};
-  const auto walk = table.Walk();
-  return {walk.begin(), walk.end()};
-}
-
 // Texts in the order of a list that sorts itself.
 std::vector<std::string> SortedAsInLists(std::vector<std::string> texts);
 
