@@ -1,4 +1,4 @@
-// The frame of an import and what its first pass puts into the list.
+// What an import does around its reading.
 #include "core/Failure.h"
 #include "exchange/Import.h"
 #include "support/Exchange.h"
@@ -18,15 +18,6 @@ const Shown kDone{"open", "hourglass", "normal", "information: E115"};
 
 void OpenBusAndTaxi(TestSession& test) {
   test.OpenHandling(CrLf({VehicleLineOf("TAXI"), VehicleLineOf("BUS", "5500.0")}));
-}
-
-// The list of a session with only a bus after the import of these lines.
-Rows ListWith(const std::string& text) {
-  TestSession test;
-  test.OpenHandling(CrLf({VehicleLineOf("BUS")}));
-  Import(test, text);
-  EXPECT_EQ(test.desktop.shown, kDone);
-  return test.main.cmbAutos.Rows();
 }
 
 TEST(ImportVehicles, AddsVehiclesToTableAndList) {
@@ -154,6 +145,30 @@ TEST(ImportVehicles, CountsRecordsInSixteenBits) {
   EXPECT_TRUE(test.vars.IsSaved);
 }
 
+TEST(ImportVehicles, ProblemsJoinThoseOfBeforeAndShowTheirWindow) {
+  TestSession test;
+  OpenBusAndTaxi(test);
+  Import(test, CrLf({VehicleLineOf("CAB")}));
+  EXPECT_FALSE(test.error.IsVisible());
+  Import(test, CrLf({"VAN           1500.0"}));
+  Import(test, CrLf({"AXO           heavy"}));
+  EXPECT_TRUE(test.error.IsVisible());
+  EXPECT_EQ(test.error.lstErrors.Rows(), (std::vector<ReportList::Row>{{"VAN", "", "E102: 2 E103"},
+                                                                       {"AXO", "", "E102: 2 E103"},
+                                                                       {"AXO", "E017", "E105"}}));
+}
+
+TEST(ImportVehicles, AKnownVehicleGetsASecondOneOutOfSight) {
+  TestSession test;
+  OpenBusAndTaxi(test);
+  Import(test, CrLf({VehicleLineOf("BUS", "9.0")}));
+  test.main.cmbAutos.ChooseByHand(0);
+  EXPECT_EQ(test.main.txtGewicht.Text(), "5500.0");
+  test.desktop.answers = {true};
+  test.main.cmdDeleteCar.ClickByHand();
+  EXPECT_EQ(NamesOf(test.vars.Cars), Rows{"TAXI"});
+}
+
 TEST(ImportVehicles, TwiceAppendsTheVehiclesAgain) {
   TestSession test;
   OpenBusAndTaxi(test);
@@ -219,52 +234,7 @@ TEST(ImportVehicles, OneBehindTheSnapshotIsShownAsAnOrdinaryVehicle) {
   EXPECT_EQ(test.main.lblTractionMulti.Caption(), "E033");
 }
 
-TEST(ImportedNames, NeedALineOfMoreThanFourteenCharacters) {
-  EXPECT_EQ(ListWith(CrLf({"VAN           "})), Rows{"BUS"});
-  EXPECT_EQ(ListWith(CrLf({"VAN           1"})), (Rows{"BUS", "VAN"}));
-}
-
-TEST(ImportedNames, ASemicolonInTheFirstFourteenColumnsMakesAComment) {
-  EXPECT_EQ(ListWith(CrLf({";VAN          1500.0"})), Rows{"BUS"});
-  EXPECT_EQ(ListWith(CrLf({"VAN          ;1500.0"})), Rows{"BUS"});
-  EXPECT_EQ(ListWith(CrLf({"VAN           ;1500.0"})), (Rows{"BUS", "VAN"}));
-}
-
-TEST(ImportedNames, AreCutAtBlanksOnBothEnds) {
-  EXPECT_EQ(ListWith(CrLf({"  MAIL VAN    1500.0"})), (Rows{"BUS", "MAIL VAN"}));
-}
-
-TEST(ImportedNames, KeepATab) {
-  EXPECT_EQ(ListWith(CrLf({"\tVAN\t         1500.0"})), (Rows{"\tVAN\t", "BUS"}));
-}
-
-TEST(ImportedNames, AreComparedWithCase) {
-  EXPECT_EQ(ListWith(CrLf({VehicleLineOf("Bus"), VehicleLineOf("BUS"), VehicleLineOf("bus")})),
-            (Rows{"BUS", "Bus", "bus"}));
-}
-
-TEST(ImportedNames, StandOnlyOnceInTheList) {
-  EXPECT_EQ(ListWith(CrLf({VehicleLineOf("VAN"), VehicleLineOf("VAN")})), (Rows{"BUS", "VAN"}));
-}
-
-TEST(ImportedNames, AreFourteenCharactersLong) {
-  EXPECT_EQ(ListWith(CrLf({"FOURTEENLETTER 1500.0"})), (Rows{"BUS", "FOURTEENLETTER"}));
-  EXPECT_EQ(ListWith(CrLf({"FIFTEENLETTERSX 1500.0"})), (Rows{"BUS", "FIFTEENLETTERS"}));
-}
-
-TEST(ImportedNames, AMarkOfASpecialLineIsPartOfTheName) {
-  EXPECT_EQ(ListWith(CrLf({"% VAN         1500.0"})), (Rows{"% VAN", "BUS"}));
-}
-
-TEST(ImportedNames, AnotherSpacingOfBlanksPutsTheNextFieldIntoTheName) {
-  EXPECT_EQ(ListWith(CrLf({"VAN 1500.0 1.9 4.6"})), (Rows{"BUS", "VAN 1500.0 1.9"}));
-}
-
-TEST(ImportedNames, FourteenBlanksMakeAnEmptyRow) {
-  EXPECT_EQ(ListWith(CrLf({"              1"})), (Rows{"", "BUS"}));
-}
-
-TEST(ImportedNames, GoBeforeTheFirstGreaterRowOfARenamedList) {
+TEST(ImportVehicles, NewNamesGoBeforeTheFirstGreaterRowOfARenamedList) {
   TestSession test;
   OpenBusAndTaxi(test);
   test.main.txtAutoname.EditByHand("ZEBRA");

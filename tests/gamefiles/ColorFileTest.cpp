@@ -48,9 +48,6 @@ std::string File(std::initializer_list<std::string_view> lines) {
 std::string WithPalette(std::initializer_list<std::string_view> lines) {
   return "col\r\n" + CrLf(lines) + CrLf({"end", "car", "bus, 0, 0", "end"});
 }
-std::string SavedWithPalette(std::initializer_list<std::string_view> lines) {
-  return kBanner + WithPalette(lines) + "\r\n\r\n";
-}
 
 TEST(ColorFile, FillsTheTablesTheirSnapshotsAndTheLists) {
   Opened test(CrLf({"# head", "col", "5,15,25\t\t\t\t# 0 black", "245,246,247\t# 1 white", "end",
@@ -132,27 +129,6 @@ TEST(ColorFile, ASecondFileLeavesTheOldLabelsInFrontOfTheNewOnes) {
   EXPECT_EQ(test.main.lstColors.Rows(), Texts{"tar - 9,9,9"});
   EXPECT_EQ(TextsOf(test.vars.Colors), Texts{"0: 9,9,9 tar"});
   EXPECT_EQ(TextsOf(test.vars.CarColors), Texts{"cab 0,0"});
-}
-
-TEST(ColorFile, ANameWithABlankIsWrittenWholeAndReadBackAsItsFirstWord) {
-  Opened test(WithPalette({"1,1,1\t# 0 oak"}));
-  test.main.lstColors.ChooseByHand(0);
-  test.main.txtColorName.EditByHand("old oak - dark");
-  const std::string saved = test.Saved();
-  EXPECT_EQ(saved, SavedWithPalette({"1,1,1\t\t\t\t# 0 old oak - dark"}));
-  test.OpenColors(saved);
-  EXPECT_EQ(TextsOf(test.vars.Colors), Texts{"0: 1,1,1 old"});
-}
-
-TEST(ColorFile, AfterADeletionTheNumbersHaveAGapUntilTheNextLoad) {
-  Opened test(WithPalette({"1,1,1\t# 0 oak", "2,2,2\t# 1 elm", "3,3,3\t# 2 ash"}));
-  test.main.lstColors.ChooseByHand(1);
-  test.desktop.answers.push_back(true);
-  test.main.cmdDeleteColor.ClickByHand();
-  const std::string saved = test.Saved();
-  EXPECT_EQ(saved, SavedWithPalette({"1,1,1\t\t\t\t# 0 oak", "3,3,3\t\t\t\t# 2 ash"}));
-  test.OpenColors(saved);
-  EXPECT_EQ(TextsOf(test.vars.Colors), (Texts{"0: 1,1,1 oak", "1: 3,3,3 ash"}));
 }
 
 TEST(ColorFile, ASaveMakesTheSnapshotsEqualToTheTables) {

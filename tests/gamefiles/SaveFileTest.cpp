@@ -145,29 +145,6 @@ TEST_F(SaveFileTest, RevertGoesBackToTheStateOfTheSave) {
   EXPECT_EQ(test.vars.Cars.At(0).Mass, "1");
 }
 
-TEST_F(SaveFileTest, ASecondSaveAddsOneEmptyLineAndAThirdNothing) {
-  OpenAndEdit(CrLf({"; a", VehicleLineOf("BUS"), "; b"}));
-  Save();
-  const std::string once = test.Disk(kPath);
-  EXPECT_EQ(once, kHead + CrLf({"; a", VehicleLineOf("BUS", "1"), "; b"}) + kEnd);
-  Save();
-  EXPECT_EQ(test.Disk(kPath), once + "\r\n");
-  Save();
-  EXPECT_EQ(test.Disk(kPath), once + "\r\n");
-}
-
-TEST_F(SaveFileTest, AValueLeftEmptyMovesTheLaterOnesToTheLeftOnTheNextLoad) {
-  test.OpenHandling(kBus);
-  test.main.txtHoehe.EditByHand("");
-  Save();
-  test.desktop.choices.push_back(FileChoice{kPath, 1});
-  test.main.cmdOpen.ClickByHand();
-  Tokens moved = GoodTokens("BUS");
-  moved.erase(moved.begin() + 3);
-  moved.emplace_back("0");
-  EXPECT_EQ(TokensOf(test.vars.Kopie_Cars), std::vector<Tokens>{moved});
-}
-
 // Titles and dialogs
 
 TEST_F(SaveFileTest, SaveDoesntTouchTitleDialogOrSettings) {

@@ -24,12 +24,6 @@ void AddLanguage(TestSession& s, const std::string& language, const std::string&
   s.files.contents["/app/" + language + ".lng"] = text;
 }
 
-// Puts the file beside the program and chooses its language by hand.
-void LoadOnly(TestSession& s, const std::string& text) {
-  AddLanguage(s, "Eins", text);
-  DiscoverLanguages(s.session);
-}
-
 TEST(Language, WithoutAnyFileAMessageIsShownAndTheProgramEnds) {
   TestSession s;
   s.files.contents["/app/Eins.txt"] = "x";
@@ -117,69 +111,10 @@ TEST(Language, ANameBeyondAsciiIsShownInTheCodePageAndFoundAgain) {
             "ais");
 }
 
-TEST(Language, EachLineIsTheEntryOfItsPosition) {
-  TestSession s;
-  LoadOnly(s, Numbered("a", 182));
-  EXPECT_EQ(Entry(s, 0), "a0");
-  EXPECT_EQ(Entry(s, 100), "a100");
-  EXPECT_EQ(Entry(s, 181), "a181");
-  EXPECT_EQ(Entry(s, 182), "");
-}
-
-TEST(Language, AnEmptyLineIsAnEmptyEntryAndKeepsItsPosition) {
-  TestSession s;
-  LoadOnly(s, "a\r\n\r\n \r\nd\r\n");
-  EXPECT_EQ(Entry(s, 0), "a");
-  EXPECT_EQ(Entry(s, 1), "");
-  EXPECT_EQ(Entry(s, 2), " ");
-  EXPECT_EQ(Entry(s, 3), "d");
-  EXPECT_EQ(Entry(s, 4), "E004");
-}
-
-TEST(Language, ALastLineWithoutAnEndCountsAndAnEmptyOneDoesNot) {
-  TestSession s;
-  LoadOnly(s, "a\r\nb");
-  EXPECT_EQ(Entry(s, 1), "b");
-  EXPECT_EQ(Entry(s, 2), "E002");
-}
-
-TEST(Language, AnEmptyFileChangesNoEntry) {
-  TestSession s;
-  LoadOnly(s, "");
-  EXPECT_EQ(Entry(s, 0), "E000");
-}
-
-TEST(Language, BackslashAndNInEitherCaseBreakTheLine) {
-  TestSession s;
-  LoadOnly(s, "one\\ntwo\r\none\\Ntwo\\n\\nthree\\n\r\n");
-  EXPECT_EQ(Entry(s, 0), "one\r\ntwo");
-  EXPECT_EQ(Entry(s, 1), "one\r\ntwo\r\n\r\nthree\r\n");
-}
-
-TEST(Language, ABackslashBeforeAnythingElseStays) {
-  TestSession s;
-  LoadOnly(s, "a\\tb\\\\c\\\r\n\\\\n\r\nn\\");
-  EXPECT_EQ(Entry(s, 0), "a\\tb\\\\c\\");
-  EXPECT_EQ(Entry(s, 1), "\\\r\n");
-  EXPECT_EQ(Entry(s, 2), "n\\");
-}
-
-TEST(Language, ATextIsTakenByteForByte) {
-  TestSession s;
-  LoadOnly(s,
-           " \tGr\xFC\xDF"
-           "e; # \x81 \r\n");
-  EXPECT_EQ(Entry(s, 0),
-            " \tGr\xFC\xDF"
-            "e; # \x81 ");
-  EXPECT_EQ(s.main.FrameSprache.Caption(),
-            " \tGr\xFC\xDF"
-            "e; # \x81 ");
-}
-
 TEST(Language, AFileOf221LinesFillsTheTable) {
   TestSession s;
-  LoadOnly(s, Numbered("a", 221));
+  AddLanguage(s, "Eins", Numbered("a", 221));
+  DiscoverLanguages(s.session);
   EXPECT_EQ(Entry(s, 220), "a220");
   EXPECT_EQ(s.main.lblAnimInfo.Caption(), "a181");
 }

@@ -33,24 +33,6 @@ void Cancel(TestSession& test) {
   test.exporter.cmdExport.ClickByHand();
 }
 
-// The data lines of a session whose only vehicle has this record.
-std::string DataLinesOf(const Car& car) {
-  TestSession test;
-  test.OpenHandling(CrLf({VehicleLineOf("BUS")}));
-  test.vars.Cars.At(0) = car;
-  test.main.cmbAutos.ReplaceRow(0, car.CarName);
-  ChooseAllForExport(test);
-  const std::string file = ExportChosen(test);
-  EXPECT_TRUE(file.starts_with(kHead) && file.ends_with(kTail)) << file;
-  return file.substr(kHead.size(), file.size() - kHead.size() - kTail.size());
-}
-
-Car Bus() {
-  TestSession test;
-  test.OpenHandling(CrLf({VehicleLineOf("BUS")}));
-  return test.vars.Cars.At(0);
-}
-
 TEST(ExportVehicles, WithNothingOnTheRightDoesNothing) {
   TestSession test;
   test.OpenHandling(kTwoVehicles);
@@ -59,39 +41,6 @@ TEST(ExportVehicles, WithNothingOnTheRightDoesNothing) {
   test.exporter.cmdExport.ClickByHand();
   EXPECT_EQ(test.desktop.shown, Shown{});
   EXPECT_TRUE(test.exporter.IsVisible());
-}
-
-TEST(ExportVehicles, WritesTheWholeFile) {
-  TestSession test;
-  test.OpenHandling(
-      "; Author: Mira K\xF6nig\r\n"
-      "; Created 14 March 2004\r\n"
-      "TAXI\t1450.0  1.9 4.5 1.5 0.0 .1 -0.1 75 0.70 0.80 0.50 4 150.0 18.0 F P 9.1 0.60 0 35.0 "
-      "1.4 "
-      "0.09 0.20 0.50 200 0.25 -0.20 0.5 0 10000 0 1 ; the yellow one\r\n"
-      "BUS           25500.0 3.0 11.5 3.1 0 0 0 90 1,0 7e-1 0.46 4 110.0 10 R D 4.2 0.60 1 30.0 "
-      "1.2 "
-      "0.05 0.45 0.2 35000 0.3 -0.25 0.5 0.0 0008081 1 0\r\n");
-  ChooseAllForExport(test);
-  EXPECT_EQ(ExportChosen(test),
-            "; File created with Wheelwright V1.0.0\r\n"
-            "; Homepage: https://wheelwright.example/\r\n"
-            "; Author: Mira K\xF6nig\r\n"
-            "; Created 14 March 2004\r\n"
-            ";\r\n"
-            "; > COMMENTS <\r\n"
-            "; ------------\r\n"
-            "; TWEAK AT YOUR OWN RISK\r\n"
-            ";\r\n"
-            "; > THE DATA <\r\n"
-            "; ------------\r\n"
-            ";\r\n"
-            "BUS            25500.0 3.0 11.5 3.1 0 0 0 90 1,0 7e-1 0.46 4 110.0 10 R D 4.2 0.60 1 "
-            "30.0 1.2 0.05 0.45 0.2  35000 0.3 -0.25 0.5 0.0 0008081 1 0\r\n"
-            "TAXI            1450.0 1.9 4.5 1.5 0.0 .1 -0.1 75 0.70 0.80 0.50 4 150.0 18.0 F P 9.1 "
-            "0.60 0 35.0 1.4 0.09 0.20 0.50    200 0.25 -0.20 0.5 0 10000 0 1\r\n"
-            ";\r\n"
-            ";the end\r\n");
 }
 
 TEST(ExportVehicles, SaysSoAndThenUnloadsTheWindow) {
@@ -191,28 +140,6 @@ TEST(ExportVehicles, TheHeadTakesTheTextsOfTheMainWindowNow) {
             "; Author: Ole", "; Created today", ";"})));
 }
 
-TEST(ExportVehicles, ANameOfTwoRecordsGivesTwoLines) {
-  TestSession test;
-  test.OpenHandling(CrLf({VehicleLineOf("BUS", "1.0"), VehicleLineOf("CAB")}));
-  test.vars.Cars.ExtendTo(2);
-  test.vars.Cars.At(2) = test.vars.Cars.At(0);
-  test.vars.Cars.At(2).Mass = "2.0";
-  test.main.cmdExportCar.ClickByHand();
-  test.exporter.lst1.MarkByHand({0});
-  test.exporter.cmdAdd.ClickByHand();
-  EXPECT_EQ(ExportChosen(test),
-            kHead + CrLf({VehicleLineOf("BUS", "1.0"), VehicleLineOf("BUS", "2.0")}) + kTail);
-}
-
-TEST(ExportVehicles, NamesAreComparedWithCase) {
-  TestSession test;
-  test.OpenHandling(CrLf({VehicleLineOf("BUS", "1.0"), VehicleLineOf("Bus", "2.0")}));
-  test.main.cmdExportCar.ClickByHand();
-  test.exporter.lst1.MarkByHand({1});
-  test.exporter.cmdAdd.ClickByHand();
-  EXPECT_EQ(ExportChosen(test), kHead + CrLf({VehicleLineOf("Bus", "2.0")}) + kTail);
-}
-
 TEST(ExportVehicles, ARenamedVehicleLeavesTheHeadAlone) {
   TestSession test;
   test.OpenHandling(CrLf({VehicleLineOf("BUS")}));
@@ -229,36 +156,6 @@ TEST(ExportVehicles, ADeletedVehicleGivesNoLine) {
   test.desktop.answers = {true};
   test.main.cmdDeleteCar.ClickByHand();
   EXPECT_EQ(ExportChosen(test), kHead + CrLf({VehicleLineOf("TAXI")}) + kTail);
-}
-
-TEST(ExportVehicles, TheKindOfASpecialLineIsNotWritten) {
-  TestSession test;
-  test.OpenHandling(CrLf({VehicleLineOf("SLOOP"), "% SLOOP 0.1 0.2"}));
-  EXPECT_EQ(test.vars.Cars.At(0).LineKind, kPercentLine);
-  ChooseAllForExport(test);
-  EXPECT_EQ(ExportChosen(test), kHead + CrLf({VehicleLineOf("SLOOP")}) + kTail);
-}
-
-TEST(ExportVehicles, ANameOfFourteenIsFollowedByOneBlank) {
-  Car car = Bus();
-  car.CarName = "FOURTEENLETTER";
-  EXPECT_TRUE(DataLinesOf(car).starts_with("FOURTEENLETTER  1500.0 1.9 "));
-}
-
-TEST(ExportVehicles, LongerValuesAreNotCut) {
-  Car car = Bus();
-  car.CarName = "FIFTEENLETTERSX";
-  car.Mass = "12345678.9";
-  car.MonetaryValue = "12345678";
-  const std::string line = DataLinesOf(car);
-  EXPECT_TRUE(line.starts_with("FIFTEENLETTERSX 12345678.9 1.9 ")) << line;
-  EXPECT_NE(line.find(" 0.50 12345678 0.35 "), std::string::npos) << line;
-}
-
-TEST(ExportVehicles, AnEmptySlotGivesTwoBlanksInARow) {
-  Car car = Bus();
-  car.SuspensionAntiDive.clear();
-  EXPECT_NE(DataLinesOf(car).find(" 0.5  0000003 "), std::string::npos);
 }
 
 TEST(ExportVehicles, AFailingWriteShowsItsFailureAndKeepsTheWindow) {
