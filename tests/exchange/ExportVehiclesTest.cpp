@@ -121,43 +121,6 @@ TEST(ExportVehicles, FollowsTheRightListAndNotTheTable) {
   EXPECT_EQ(ExportChosen(test), kHead + CrLf({VehicleLineOf("BUS"), VehicleLineOf("VAN")}) + kTail);
 }
 
-TEST(ExportVehicles, ATypedValueIsExportedThoughUnsaved) {
-  TestSession test;
-  test.OpenHandling(CrLf({VehicleLineOf("BUS")}));
-  ChooseAllForExport(test);
-  test.main.txtGewicht.EditByHand("77");
-  EXPECT_EQ(ExportChosen(test), kHead + CrLf({VehicleLineOf("BUS", "77")}) + kTail);
-}
-
-TEST(ExportVehicles, TheHeadTakesTheTextsOfTheMainWindowNow) {
-  TestSession test;
-  test.OpenHandling(CrLf({"; Author: Mira", "; Created 2004", VehicleLineOf("BUS")}));
-  ChooseAllForExport(test);
-  test.main.txtAuthor.EditByHand("Ole");
-  test.main.txtDate.EditByHand("today");
-  EXPECT_TRUE(ExportChosen(test).starts_with(
-      CrLf({"; File created with Wheelwright V1.0.0", "; Homepage: https://wheelwright.example/",
-            "; Author: Ole", "; Created today", ";"})));
-}
-
-TEST(ExportVehicles, ARenamedVehicleLeavesTheHeadAlone) {
-  TestSession test;
-  test.OpenHandling(CrLf({VehicleLineOf("BUS")}));
-  ChooseAllForExport(test);
-  test.main.txtAutoname.EditByHand("COACH");
-  EXPECT_EQ(ExportChosen(test), kHead + kTail);
-  EXPECT_EQ(test.LastShown(), "information: E113");
-}
-
-TEST(ExportVehicles, ADeletedVehicleGivesNoLine) {
-  TestSession test;
-  test.OpenHandling(kTwoVehicles);
-  ChooseAllForExport(test);
-  test.desktop.answers = {true};
-  test.main.cmdDeleteCar.ClickByHand();
-  EXPECT_EQ(ExportChosen(test), kHead + CrLf({VehicleLineOf("TAXI")}) + kTail);
-}
-
 TEST(ExportVehicles, AFailingWriteShowsItsFailureAndKeepsTheWindow) {
   TestSession test;
   test.OpenHandling(kTwoVehicles);

@@ -158,51 +158,6 @@ TEST(ImportVehicles, ProblemsJoinThoseOfBeforeAndShowTheirWindow) {
                                                                        {"AXO", "E017", "E105"}}));
 }
 
-TEST(ImportVehicles, AKnownVehicleGetsASecondOneOutOfSight) {
-  TestSession test;
-  OpenBusAndTaxi(test);
-  Import(test, CrLf({VehicleLineOf("BUS", "9.0")}));
-  test.main.cmbAutos.ChooseByHand(0);
-  EXPECT_EQ(test.main.txtGewicht.Text(), "5500.0");
-  test.desktop.answers = {true};
-  test.main.cmdDeleteCar.ClickByHand();
-  EXPECT_EQ(NamesOf(test.vars.Cars), Rows{"TAXI"});
-}
-
-TEST(ImportVehicles, TwiceAppendsTheVehiclesAgain) {
-  TestSession test;
-  OpenBusAndTaxi(test);
-  const std::string text = CrLf({VehicleLineOf("VAN"), VehicleLineOf("CAB")});
-  Import(test, text);
-  Import(test, text);
-  EXPECT_EQ(test.desktop.shown, kDone);
-  EXPECT_EQ(test.main.cmbAutos.Rows(), (Rows{"BUS", "CAB", "TAXI", "VAN"}));
-  EXPECT_EQ(NamesOf(test.vars.Cars), (Rows{"TAXI", "BUS", "VAN", "CAB", "VAN", "CAB"}));
-}
-
-TEST(ImportVehicles, WithADefinitionFileOpenAddsToTheVehiclesAndTheList) {
-  TestSession test;
-  OpenBusAndTaxi(test);
-  test.OpenDefinition(
-      CrLf({"cars", "130, cab, cab, car, CAB, CAB, null, taxi, 10, 7, 0, 251, 0.7", "end"}));
-  const std::vector<IdeEntry> definitions = RecordsOf(test.vars.Ides);
-  Import(test, CrLf({VehicleLineOf("VAN")}));
-  EXPECT_EQ(test.desktop.shown, kDone);
-  EXPECT_EQ(test.main.cmbAutos.Rows(), (Rows{"CAB", "VAN"}));
-  EXPECT_EQ(NamesOf(test.vars.Cars), (Rows{"TAXI", "BUS", "VAN"}));
-  EXPECT_EQ(RecordsOf(test.vars.Ides), definitions);
-}
-
-TEST(ImportVehicles, WithAColorFileOpenAddsToTheVehiclesAndTheList) {
-  TestSession test;
-  OpenBusAndTaxi(test);
-  test.OpenColors(CrLf({"col", "0,0,0\t\t\t\t# 0 black", "end", "car", "cab, 0, 0", "end"}));
-  Import(test, CrLf({VehicleLineOf("VAN")}));
-  EXPECT_EQ(test.desktop.shown, kDone);
-  EXPECT_EQ(test.main.cmbAutos.Rows(), (Rows{"cab", "VAN"}));
-  EXPECT_EQ(NamesOf(test.vars.Cars), (Rows{"TAXI", "BUS", "VAN"}));
-}
-
 TEST(ImportVehicles, TheNextSaveWritesThemInTheirSortedPlaces) {
   TestSession test;
   OpenBusAndTaxi(test);
@@ -213,33 +168,6 @@ TEST(ImportVehicles, TheNextSaveWritesThemInTheirSortedPlaces) {
       CrLf({"; File created with Wheelwright V1.0.0", "; Homepage: https://wheelwright.example/",
             VehicleLineOf("BUS", "5500.0"), VehicleLineOf("CAB"), VehicleLineOf("TAXI"),
             VehicleLineOf("VAN"), ";", ";the end"}));
-}
-
-TEST(ImportVehicles, ARevertTakesThemAwayAgain) {
-  TestSession test;
-  OpenBusAndTaxi(test);
-  Import(test, CrLf({VehicleLineOf("VAN")}));
-  test.desktop.answers = {true};
-  test.main.cmdUndo.ClickByHand();
-  EXPECT_EQ(test.main.cmbAutos.Rows(), (Rows{"BUS", "TAXI"}));
-  EXPECT_EQ(NamesOf(test.vars.Cars), (Rows{"TAXI", "BUS"}));
-}
-
-TEST(ImportVehicles, OneBehindTheSnapshotIsShownAsAnOrdinaryVehicle) {
-  TestSession test;
-  test.OpenHandling(CrLf({VehicleLineOf("SLOOP"), "% SLOOP 0.1"}));
-  EXPECT_EQ(test.main.lblTractionMulti.Caption(), "E169");
-  Import(test, CrLf({VehicleLineOf("CAB")}));
-  EXPECT_EQ(test.main.txtAutoname.Text(), "CAB");
-  EXPECT_EQ(test.main.lblTractionMulti.Caption(), "E033");
-}
-
-TEST(ImportVehicles, NewNamesGoBeforeTheFirstGreaterRowOfARenamedList) {
-  TestSession test;
-  OpenBusAndTaxi(test);
-  test.main.txtAutoname.EditByHand("ZEBRA");
-  Import(test, CrLf({VehicleLineOf("VAN"), VehicleLineOf("ZULU")}));
-  EXPECT_EQ(test.main.cmbAutos.Rows(), (Rows{"VAN", "ZEBRA", "TAXI", "ZULU"}));
 }
 
 }  // namespace

@@ -111,14 +111,6 @@ TEST(Language, ANameBeyondAsciiIsShownInTheCodePageAndFoundAgain) {
             "ais");
 }
 
-TEST(Language, AFileOf221LinesFillsTheTable) {
-  TestSession s;
-  AddLanguage(s, "Eins", Numbered("a", 221));
-  DiscoverLanguages(s.session);
-  EXPECT_EQ(Entry(s, 220), "a220");
-  EXPECT_EQ(s.main.lblAnimInfo.Caption(), "a181");
-}
-
 TEST(Language, AFileOf222LinesFailsOnTheLastLine) {
   TestSession s;
   AddLanguage(s, "Eins", Numbered("a", 222));
@@ -126,19 +118,6 @@ TEST(Language, AFileOf222LinesFailsOnTheLastLine) {
   EXPECT_EQ(Entry(s, 220), "a220");
   EXPECT_EQ(s.main.FrameSprache.Caption(), "E000");
   EXPECT_TRUE(s.settings.values.empty());
-}
-
-TEST(Language, AShorterFileLeavesTheLaterEntriesOfTheOldLanguage) {
-  TestSession s;
-  AddLanguage(s, "Eins", Numbered("a", 182));
-  AddLanguage(s, "Zwei", Numbered("b", 100));
-  DiscoverLanguages(s.session);
-  s.main.cmbSprache.ChooseByHand(1);
-  EXPECT_EQ(Entry(s, 99), "b99");
-  EXPECT_EQ(Entry(s, 100), "a100");
-  EXPECT_EQ(Entry(s, 181), "a181");
-  EXPECT_EQ(s.main.cmdNewCar.Caption(), "b93");
-  EXPECT_EQ(s.main.frameAuthor.Caption(), "a100");
 }
 
 TEST(Language, AFileThatVanishedLeavesTheTableAndIsNotReported) {

@@ -1,11 +1,6 @@
 // What holds for every file, however odd. The laws stand in oracle/; the fuzzers try them too.
 #include "oracle/AnyDice.h"
-#include "oracle/ColorLaws.h"
-#include "oracle/DefinitionLaws.h"
-#include "oracle/ExchangeLaws.h"
-#include "oracle/HandlingLaws.h"
-#include "oracle/LanguageLaws.h"
-#include "oracle/OddFiles.h"
+#include "oracle/FormatLaws.h"
 #include "oracle/OddTexts.h"
 
 #include <gtest/gtest.h>

@@ -1,10 +1,7 @@
 // What holds for every text, line and number, however odd.
 #include "oracle/AnyDice.h"
-#include "oracle/LineLaws.h"
-#include "oracle/NameLaws.h"
-#include "oracle/NumberLaws.h"
-#include "oracle/OddTexts.h"
 #include "oracle/TextLaws.h"
+#include "oracle/OddTexts.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck.h>

@@ -1,4 +1,4 @@
-#include "oracle/ColorLaws.h"
+#include "oracle/FormatLaws.h"
 
 #include "formats/ColorFile.h"
 #include "oracle/ColorReference.h"

@@ -1,4 +1,4 @@
-#include "oracle/DefinitionLaws.h"
+#include "oracle/FormatLaws.h"
 
 #include "formats/DefinitionFile.h"
 #include "oracle/DefinitionReference.h"

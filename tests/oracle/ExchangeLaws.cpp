@@ -1,4 +1,4 @@
-#include "oracle/ExchangeLaws.h"
+#include "oracle/FormatLaws.h"
 
 #include "formats/ExportFile.h"
 #include "oracle/ExchangeReference.h"

@@ -1,4 +1,4 @@
-#include "oracle/HandlingLaws.h"
+#include "oracle/FormatLaws.h"
 
 #include "formats/HandlingFile.h"
 #include "oracle/Law.h"

@@ -1,4 +1,4 @@
-#include "oracle/LanguageLaws.h"
+#include "oracle/FormatLaws.h"
 
 #include "core/Vars.h"
 #include "formats/LanguageFile.h"

@@ -1,4 +1,4 @@
-#include "oracle/LineLaws.h"
+#include "oracle/TextLaws.h"
 
 #include "core/Numbers.h"
 #include "formats/HandlingLine.h"

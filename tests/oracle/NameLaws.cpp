@@ -1,4 +1,4 @@
-#include "oracle/NameLaws.h"
+#include "oracle/TextLaws.h"
 
 #include "core/TextIndex.h"
 #include "formats/NameIndex.h"

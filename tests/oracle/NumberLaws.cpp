@@ -1,4 +1,4 @@
-#include "oracle/NumberLaws.h"
+#include "oracle/TextLaws.h"
 
 #include "core/Numbers.h"
 #include "oracle/Law.h"

@@ -1,8 +1,7 @@
 // Reads a text as a colour file, writes what it says over it, and then any palette and pairs. The
 // input: the text, an odd file if it is empty; dice.
 #include "fuzz/FuzzInput.h"
-#include "oracle/ColorLaws.h"
-#include "oracle/OddFiles.h"
+#include "oracle/FormatLaws.h"
 
 namespace wheelwright {
 

@@ -1,7 +1,7 @@
 // Reads a text as a definition file, writes what it says over it, and then any definitions. The
 // input: the text, an odd file if it is empty; dice.
 #include "fuzz/FuzzInput.h"
-#include "oracle/DefinitionLaws.h"
+#include "oracle/FormatLaws.h"
 
 namespace wheelwright {
 

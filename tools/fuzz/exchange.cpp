@@ -1,8 +1,7 @@
 // Imports a text into any list and table, exports any vehicles, and imports such. The input: the
 // text, an odd file if it is empty; the list, a line for each row; dice.
 #include "fuzz/FuzzInput.h"
-#include "oracle/ExchangeLaws.h"
-#include "oracle/OddFiles.h"
+#include "oracle/FormatLaws.h"
 
 namespace wheelwright {
 

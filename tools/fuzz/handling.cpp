@@ -1,8 +1,7 @@
 // Reads a text as a handling file, writes what it says over it, and then any vehicles. The input:
 // the text, an odd file if it is empty; dice.
 #include "fuzz/FuzzInput.h"
-#include "oracle/HandlingLaws.h"
-#include "oracle/OddFiles.h"
+#include "oracle/FormatLaws.h"
 
 namespace wheelwright {
 

@@ -1,8 +1,7 @@
 // Reads a text as a language file, and a second one over it. The input: the two texts, an odd file
 // for an empty one; dice.
 #include "fuzz/FuzzInput.h"
-#include "oracle/LanguageLaws.h"
-#include "oracle/OddFiles.h"
+#include "oracle/FormatLaws.h"
 
 namespace wheelwright {
 

@@ -1,9 +1,6 @@
 // Takes lines and texts apart. The first line of the input says how: "comma", "space", "handling",
 // "number", "index", "letters" or "text"; any other first byte chooses one of them too.
 #include "fuzz/FuzzInput.h"
-#include "oracle/LineLaws.h"
-#include "oracle/NameLaws.h"
-#include "oracle/NumberLaws.h"
 #include "oracle/TextLaws.h"
 
 namespace wheelwright {
