@@ -56,10 +56,11 @@ std::string Line(Dice& dice) {
     case 13:
       return Comment(dice);
     case 12:
-      return MarkedLine(dice);
     case 11:
-      return " " + Vehicle(dice);
+      return MarkedLine(dice);
     case 10:
+      return " " + Vehicle(dice);
+    case 9:
       return AnyBytes(dice, 40);
     case 0:
       return "";
@@ -78,12 +79,13 @@ Tokens TidyTokens(Dice& dice, const std::string& name) {
   return tokens;
 }
 
-Car OddCar(Dice& dice) {
+// Half of the vehicles bear a name of the list.
+Car OddCar(Dice& dice, const Texts& names) {
   Car car;
   for (const HandlingToken& token : kHandlingTokens) {
     car.*token.value = dice.OneIn(8) ? OddField(dice) : "0.70";
   }
-  car.CarName = OddName(dice);
+  car.CarName = names.empty() || dice.OneIn(2) ? OddName(dice) : dice.OneOf(names);
   return car;
 }
 
@@ -95,7 +97,7 @@ std::string OddHandlingFile(Dice& dice) {
   if (!dice.OneIn(5)) lines.push_back(Vehicle(dice));
   for (int i = 0; i < count; ++i) lines.push_back(Line(dice));
   // Lines of special kinds do no harm behind the vehicles that they name.
-  if (dice.OneIn(3)) lines.push_back(MarkedLine(dice));
+  while (dice.OneIn(2)) lines.push_back(MarkedLine(dice));
   return TextOfLines(dice, lines);
 }
 
@@ -110,9 +112,9 @@ std::string OddExchangeFile(Dice& dice) {
 
 PlainVehicles OddVehicles(Dice& dice) {
   PlainVehicles vehicles{OddNames(dice), {}, OddField(dice), OddField(dice)};
-  do {
-    vehicles.cars.push_back(OddCar(dice));
-  } while (dice.OneIn(2));
+  for (int left = dice.Between(1, 5); left > 0; --left) {
+    vehicles.cars.push_back(OddCar(dice, vehicles.names));
+  }
   return vehicles;
 }
 

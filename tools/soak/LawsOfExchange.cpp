@@ -25,6 +25,7 @@ void CheckImport(const Moment& moment) {
   Require(after.working.cars.size() == plain.cars.size(),
           "an import has made another count of records");
   if (moment.result.ShowedError()) return;
+  Require(moment.result.ShowedInformation(), "an import says nothing");
   Require(!after.isSaved, "IsSaved after an import");
   Require(moment.session.main.cmbAutos.Row() == 0, "an import doesn't choose the first row");
   Require(AsDisplayed(after.working.cars) == AsDisplayed(plain.cars),
@@ -37,6 +38,7 @@ void CheckExport(const Moment& moment) {
   expected[moment.folder.NameOf(moment.step.File())] =
       testing::ExportPlainly({before.exported, before.working.cars, before.author, before.date});
   Require(moment.after.disk == expected, "an export has written something else");
+  Require(moment.result.ShowedInformation(), "an export says nothing");
   Require(!moment.session.exporter.IsVisible(), "the export window stays after an export");
 }
 

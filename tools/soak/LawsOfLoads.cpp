@@ -55,6 +55,9 @@ void CheckHandling(const Moment& moment, const FileKind& kind, const ExpectedHan
   Require(moment.after.date == read.created, "txtDate isn't what stands in the file");
   if (HasPlainMessages(moment.session.vars))
     Require(moment.session.error.lstErrors.Rows() == expected.rows, "the load problems are others");
+  const bool hasProblems = read.hasOddNames || !expected.rows.empty();
+  Require(moment.session.error.IsVisible() || !hasProblems,
+          "load problems don't show their window");
   Tables tables = moment.before.working;
   tables.cars = read.cars;
   CheckDisplay(moment, std::move(tables));

@@ -70,6 +70,7 @@ void CheckSave(const Moment& moment) {
     Require(after.file == before.file, "a failed save has changed CurrentFile");
     return;
   }
+  Require(moment.result.ShowedInformation(), "a save says nothing");
   Require(after.isSaved, "IsSaved is false after a save");
   Require(after.disk == ExpectedDisk(moment, source, target), "a save has written something else");
   Require(after.file == moment.folder.PathOf(target), "CurrentFile isn't the saved file");

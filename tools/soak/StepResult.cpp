@@ -31,17 +31,12 @@ std::string StepResult::End() const {
   return hasEnded ? lines_.back()["end"].get<std::string>() : "";
 }
 
-bool StepResult::ShowedError() const { return HasBox("error", ""); }
+bool StepResult::ShowedError() const { return HasBox("error"); }
 
-bool StepResult::Informed(const std::string& beginning) const {
-  return HasBox("information", beginning);
-}
+bool StepResult::ShowedInformation() const { return HasBox("information"); }
 
-bool StepResult::HasBox(const std::string& kind, const std::string& beginning) const {
-  const auto isIt = [&](const Json& line) {
-    return line.contains("box") && line["box"] == kind &&
-           line["text"].get<std::string>().starts_with(beginning);
-  };
+bool StepResult::HasBox(const std::string& kind) const {
+  const auto isIt = [&](const Json& line) { return line.contains("box") && line["box"] == kind; };
   return std::any_of(lines_.begin(), lines_.end(), isIt);
 }
 

@@ -21,11 +21,10 @@ class StepResult {
   // "quit", "failure", or empty while the program goes on.
   std::string End() const;
   bool ShowedError() const;
-  // Whether an information box with a text that begins so was shown.
-  bool Informed(const std::string& beginning) const;
+  bool ShowedInformation() const;
 
  private:
-  bool HasBox(const std::string& kind, const std::string& beginning) const;
+  bool HasBox(const std::string& kind) const;
 
   std::vector<Json> lines_;
 };
