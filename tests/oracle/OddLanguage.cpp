@@ -1,10 +1,11 @@
+#include "core/Vars.h"
 #include "oracle/OddFiles.h"
 #include "oracle/OddTexts.h"
 
 namespace wheelwright::testing {
 namespace {
 
-constexpr int kEntries = 221;
+constexpr int kEntries = Vars::kLangEntries;
 
 std::string EntryText(int entry) {
   std::string number = std::to_string(entry);

@@ -1,4 +1,4 @@
-// What a load leaves behind, held against the plain readers.
+// What a load leaves behind, also one that fails, held against the plain readers.
 #include "gamefiles/FileKinds.h"
 #include "oracle/ColorReference.h"
 #include "oracle/DefinitionReference.h"
@@ -48,8 +48,6 @@ void CheckReady(const Moment& moment, const FileKind& kind, std::vector<std::str
 
 void CheckHandling(const Moment& moment, const FileKind& kind, const ExpectedHandling& expected) {
   const testing::PlainHandling& read = expected.read;
-  if (read.failure != 0 || read.names.empty()) return CheckReset(moment);
-  CheckReady(moment, kind, read.names);
   Require(moment.after.snapshot.cars == read.cars, "Kopie_Cars isn't what stands in the file");
   Require(moment.after.author == read.author, "txtAuthor isn't what stands in the file");
   Require(moment.after.date == read.created, "txtDate isn't what stands in the file");
@@ -58,31 +56,35 @@ void CheckHandling(const Moment& moment, const FileKind& kind, const ExpectedHan
   const bool hasProblems = read.hasOddNames || !expected.rows.empty();
   Require(moment.session.error.IsVisible() || !hasProblems,
           "load problems don't show their window");
+  if (read.failure != 0 || read.names.empty()) return CheckReset(moment);
+  CheckReady(moment, kind, read.names);
   Tables tables = moment.before.working;
   tables.cars = read.cars;
   CheckDisplay(moment, std::move(tables));
 }
 
 void CheckDefinitions(const Moment& moment, const FileKind& kind, const PlainDefinitions& read) {
+  Require(moment.after.snapshot.ides == read.records, "Kopie_Ides isn't what stands in the file");
   if (read.damagedLine != 0 || read.keys.empty()) return CheckReset(moment);
   CheckReady(moment, kind, read.keys);
-  Require(moment.after.snapshot.ides == read.records, "Kopie_Ides isn't what stands in the file");
   Tables expected = moment.before.working;
   expected.ides = read.records;
   CheckDisplay(moment, std::move(expected));
 }
 
 void CheckColors(const Moment& moment, const FileKind& kind, const PlainColors& read) {
+  Require(moment.after.snapshot.colors == read.colors,
+          "Kopie_Colors isn't what stands in the file");
+  if (read.firstPassEnded) {
+    Require(moment.after.snapshot.carColors == read.carColors,
+            "Kopie_CarColors isn't what stands in the file");
+  }
+  Require(moment.session.main.lstColors.Rows() == read.labels,
+          "lstColors isn't the file's palette");
   const bool hasRows = moment.session.main.cmbColor1.Count() > 0;
   if (read.failure != 0 || read.damagedLine != 0 || read.keys.empty() || !hasRows)
     return CheckReset(moment);
   CheckReady(moment, kind, read.keys);
-  Require(moment.after.snapshot.colors == read.colors,
-          "Kopie_Colors isn't what stands in the file");
-  Require(moment.after.snapshot.carColors == read.carColors,
-          "Kopie_CarColors isn't what stands in the file");
-  Require(moment.session.main.lstColors.Rows() == read.labels,
-          "lstColors isn't the file's palette");
   Tables expected = moment.before.working;
   expected.colors = read.colors;
   expected.carColors = read.carColors;
