@@ -1,7 +1,7 @@
 // What holds for every text, line and number, however odd.
 #include "oracle/AnyDice.h"
-#include "oracle/TextLaws.h"
 #include "oracle/OddTexts.h"
+#include "oracle/TextLaws.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck.h>

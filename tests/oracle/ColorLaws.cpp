@@ -1,7 +1,6 @@
-#include "oracle/FormatLaws.h"
-
 #include "formats/ColorFile.h"
 #include "oracle/ColorReference.h"
+#include "oracle/FormatLaws.h"
 #include "oracle/Law.h"
 #include "oracle/PlainTexts.h"
 #include "oracle/SaveLaws.h"

@@ -1,7 +1,6 @@
-#include "oracle/FormatLaws.h"
-
 #include "formats/ExportFile.h"
 #include "oracle/ExchangeReference.h"
+#include "oracle/FormatLaws.h"
 #include "oracle/Law.h"
 #include "support/TableRecords.h"
 #include "support/Thrown.h"

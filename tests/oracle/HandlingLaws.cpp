@@ -1,6 +1,5 @@
-#include "oracle/FormatLaws.h"
-
 #include "formats/HandlingFile.h"
+#include "oracle/FormatLaws.h"
 #include "oracle/Law.h"
 #include "oracle/PlainTexts.h"
 #include "oracle/SaveLaws.h"

@@ -1,7 +1,6 @@
-#include "oracle/FormatLaws.h"
-
 #include "core/Vars.h"
 #include "formats/LanguageFile.h"
+#include "oracle/FormatLaws.h"
 #include "oracle/Law.h"
 #include "oracle/PlainTexts.h"
 #include "support/Thrown.h"

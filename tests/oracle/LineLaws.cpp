@@ -1,10 +1,9 @@
-#include "oracle/TextLaws.h"
-
 #include "core/Numbers.h"
 #include "formats/HandlingLine.h"
 #include "formats/Tokenisers.h"
 #include "oracle/Law.h"
 #include "oracle/PlainTexts.h"
+#include "oracle/TextLaws.h"
 #include "support/VehicleTokens.h"
 
 #include <cstddef>

@@ -1,9 +1,8 @@
-#include "oracle/TextLaws.h"
-
 #include "core/TextIndex.h"
 #include "formats/NameIndex.h"
 #include "oracle/Law.h"
 #include "oracle/PlainTexts.h"
+#include "oracle/TextLaws.h"
 
 #include <algorithm>
 

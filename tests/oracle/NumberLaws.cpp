@@ -1,8 +1,7 @@
-#include "oracle/TextLaws.h"
-
 #include "core/Numbers.h"
 #include "oracle/Law.h"
 #include "oracle/PlainTexts.h"
+#include "oracle/TextLaws.h"
 #include "support/Thrown.h"
 
 #include <algorithm>
