@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """The small mistakes of tools/mutants are made where code can be mistaken, and nowhere else."""
 
+import itertools
 import pathlib
 import sys
 import unittest
@@ -50,6 +51,14 @@ class Sites(unittest.TestCase):
         self.assertEqual(["b = f;\n  a = e;"], mistakes("a = e;\n  b = f;"))
         self.assertEqual([], mistakes("a = e;\n\n  b = f;"))
         self.assertEqual([], mistakes("if (a)\n    b = f;\n  c = g;"))
+
+    def test_two_declarations_have_no_order_unless_both_may_take_from_a_third(self):
+        declarations = ["using B = A;", "int a;", "const C<D, E>& b = c.D();", "auto* const e = F(c);"]
+        for first, second in itertools.permutations(declarations, 2):
+            self.assertEqual([], mistakes(f"{first}\n  {second}"))
+        self.assertEqual(["int b = T(c);\n  int a = T(c);"], mistakes("int a = T(c);\n  int b = T(c);"))
+        self.assertEqual(["a = e;\n  int b = f;"], mistakes("int b = f;\n  a = e;"))
+        self.assertEqual(["return a;\n  int b = f;"], mistakes("int b = f;\n  return a;"))
 
     def test_a_call_is_left_out(self):
         self.assertEqual([";"], mistakes("main.lists[row].Clear();"))

@@ -13,6 +13,8 @@ TAKES_BLANKS = {"<", ">", "+", "-", "&&", "||"}
 BEFORE_AN_OPERAND = {"(", "[", "{", ",", "=", "==", "!=", "<", ">", "<=", ">=", "?", ":", "+", "-", "*",
                      "/", "&&", "||", "return", ";", "}"}
 CALL = re.compile(r"[A-Za-z_][\w:.<>\[\]()*-]*\(.*\);")
+DECLARATION = re.compile(r"(?!(return|throw|delete)\b)(using |([\w:]+(<[^=;]*>)?[&*]* )+\w+( = .*)?;)")
+CALL_WITH_ARGUMENTS = re.compile(r"\w\([^)]")
 BLOCK_OF_NAMES = re.compile(r"\b(namespace|struct|class|enum|union)\b[^()]*$")
 BLOCK_OF_STEPS = re.compile(r"(\)|\b(else|do|try|const|noexcept|override|mutable)\b)[^;={}]*$")
 
@@ -106,12 +108,18 @@ def statement_lines(source):
             yield Line(number, start, end, indent, source[start:end])
 
 
+def are_independent(first, second):
+    """Two declarations in either order are the same, or don't compile, unless both may take from a third."""
+    return all(DECLARATION.match(text) for text in (first, second)) \
+        and not all(CALL_WITH_ARGUMENTS.search(text) for text in (first, second))
+
+
 def order_sites(file, source):
     lines = list(statement_lines(source))
     for first, second in zip(lines, lines[1:]):
         between = source[first.end:second.start]
         if second.number - first.number == 1 and first.indent == second.indent \
-                and first.text != second.text:
+                and first.text != second.text and not are_independent(first.text, second.text):
             swapped = second.text + between + first.text
             yield Site(file, first.start, second.end, "order", (swapped,))
 
