@@ -74,6 +74,9 @@ class Sites(unittest.TestCase):
         self.assertEqual([], mistakes("static_assert(a < 1);"))
         self.assertEqual([], mistakes("\n#if A > 1\n#endif\n"))
         self.assertEqual([], mistakes("\n#ifdef _WIN32\nreturn 1;\n#endif\n"))
+        self.assertEqual([], mistakes("\n#ifdef __linux__\nF;\n#else\nreturn 1;\n#endif\n"))
+        self.assertEqual(["\n#ifdef _WIN32\nF;\n#else\nreturn true;\n#endif\n"],
+                         mistakes("\n#ifdef _WIN32\nF;\n#else\nreturn false;\n#endif\n"))
 
     def test_brackets_and_arrows_are_no_comparisons(self):
         self.assertEqual([], mistakes("std::vector<A> a = b->c << d;"))

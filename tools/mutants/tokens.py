@@ -30,16 +30,16 @@ class Token:
 
 
 def other_systems(tokens):
-    """The stretches between two directives that are compiled on Windows only."""
-    began = None
+    """The stretches that other systems compile: where the sources ask for a system, it is Windows or this."""
+    began, is_foreign = 0, False
     for token in tokens:
-        if token.kind != "directive":
+        asked = re.match(r"#(ifdef|else|endif)(.*)", token.text) if token.kind == "directive" else None
+        if not asked:
             continue
-        if re.match(r"#ifdef _WIN32", token.text):
-            began = token.end
-        elif began is not None:
+        if is_foreign:
             yield began, token.start
-            began = None
+        began = token.end
+        is_foreign = {"ifdef": "_WIN32" in asked[2], "else": not is_foreign, "endif": False}[asked[1]]
 
 
 def code_tokens(source):
