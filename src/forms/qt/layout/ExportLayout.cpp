@@ -7,18 +7,15 @@
 namespace wheelwright {
 namespace {
 
-// The design is in twentieths of a point, of which a pixel at 96 dots per inch has 15.
-constexpr int Pixels(int twentieths) { return twentieths / 15; }
-
-constexpr QSize kExportSize(Pixels(5385), Pixels(4785));
-constexpr QSize kExportListSize(Pixels(2175), Pixels(3765));
-constexpr QSize kArrowSize(Pixels(615), Pixels(375));
-constexpr QSize kButtonSize(Pixels(1215), Pixels(375));
-constexpr int kLabelHeight = Pixels(255);
-constexpr QMargins kMargins(Pixels(120), Pixels(120), Pixels(90), Pixels(90));
-constexpr int kGap = Pixels(105);
-constexpr int kBelowLists = Pixels(75);
-constexpr int kBetweenArrows = Pixels(105);
+// In pixels at 96 dots per inch. The window comes up as small as all this together lets it.
+constexpr QSize kExportListSize(145, 251);
+constexpr QSize kArrowSize(41, 25);
+constexpr QSize kButtonSize(81, 25);
+constexpr int kLabelHeight = 17;
+constexpr QMargins kMargins(8, 8, 6, 6);
+constexpr int kGap = 7;
+constexpr int kBelowLists = 5;
+constexpr int kBetweenArrows = 7;
 
 enum ExportColumn { kAvailable, kArrows, kChosen };
 
@@ -99,7 +96,7 @@ void LayOutExport(FrmExport& exporter, QWidget* window, MirrorSet& mirrors) {
   column->setSpacing(kBelowLists);
   column->addLayout(grid, 1);
   column->addLayout(BottomRow(exporter, window, mirrors));
-  window->resize(kExportSize);
+  window->resize(0, 0);
 }
 
 }  // namespace wheelwright
