@@ -61,7 +61,7 @@ QWidget* BottomButton(Button& button, QWidget* window, MirrorSet& mirrors) {
 }
 
 QLayout* BottomRow(FrmExport& exporter, QWidget* window, MirrorSet& mirrors) {
-  enum { kHiddenPlace, kSpace, kExportPlace, kClosePlace };
+  enum { kSpace, kExportPlace, kClosePlace };
   auto* row = new QGridLayout;
   row->setSpacing(kGap);
   row->setRowMinimumHeight(0, kButtonSize.height());
@@ -70,7 +70,6 @@ QLayout* BottomRow(FrmExport& exporter, QWidget* window, MirrorSet& mirrors) {
   row->setColumnStretch(kSpace, 1);
   row->addWidget(BottomButton(exporter.cmdExport, window, mirrors), 0, kExportPlace);
   row->addWidget(BottomButton(exporter.cmdClose, window, mirrors), 0, kClosePlace);
-  row->addWidget(BottomButton(exporter.Spez, window, mirrors), 0, kHiddenPlace);
   return row;
 }
 
@@ -96,6 +95,7 @@ void LayOutExport(FrmExport& exporter, QWidget* window, MirrorSet& mirrors) {
   column->setSpacing(kBelowLists);
   column->addLayout(grid, 1);
   column->addLayout(BottomRow(exporter, window, mirrors));
+  mirrors.Add(exporter.Spez, window);  // hidden for good, it needs no place
   window->resize(0, 0);
 }
 

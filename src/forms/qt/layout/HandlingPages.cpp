@@ -43,11 +43,11 @@ void BuildMisc(FrmMain& main, QWidget& page, MirrorSet& mirrors) {
   auto* column = new QVBoxLayout(&page);
   column->setContentsMargins(gap, gap, gap, gap);
   column->setSpacing(gap);
+  // Hidden for good, they need no place.
+  for (Button* hidden : {&main.cmdNewCar, &main.cmdDeleteCar}) mirrors.Add(*hidden, &page);
   auto* buttons = new QGridLayout;
-  buttons->addWidget(&mirrors.Add(main.cmdNewCar, &page).Widget(), 0, 0);
-  buttons->addWidget(&mirrors.Add(main.cmdDeleteCar, &page).Widget(), 0, 1);
-  buttons->addWidget(&mirrors.Add(main.cmdImportCar, &page).Widget(), 1, 0);
-  buttons->addWidget(&mirrors.Add(main.cmdExportCar, &page).Widget(), 1, 1);
+  buttons->addWidget(&mirrors.Add(main.cmdImportCar, &page).Widget(), 0, 0);
+  buttons->addWidget(&mirrors.Add(main.cmdExportCar, &page).Widget(), 0, 1);
   // Buttons of the same width, a quarter of the page each.
   buttons->setColumnStretch(0, 1);
   buttons->setColumnStretch(1, 1);
