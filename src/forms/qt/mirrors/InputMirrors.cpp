@@ -88,7 +88,6 @@ CheckBoxMirror::CheckBoxMirror(CheckBox& box, EventEdge& edge, QWidget* parent)
 
 void CheckBoxMirror::Follow(Aspect aspect) {
   if (aspect != Aspect::Content) return;
-  const QSignalBlocker blocker(widget_);
   widget_.setText(ShownCaption(plain_.Caption()));
   widget_.setCheckState(ShownState(plain_.State()));
 }
