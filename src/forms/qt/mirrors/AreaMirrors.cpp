@@ -22,9 +22,7 @@ PictureMirror::PictureMirror(Picture& picture, EventEdge& edge, QWidget* frame)
 }
 
 void PictureMirror::Follow(Aspect aspect) {
-  if (aspect != Aspect::Content) return;
-  widget_.Show(plain_.File());
-  widget_.MoveTo({plain_.Left(), plain_.Top()});
+  if (aspect == Aspect::Content) widget_.Show(plain_.File(), {plain_.Left(), plain_.Top()});
 }
 
 SwatchMirror::SwatchMirror(Swatch& swatch, EventEdge& edge, QWidget* parent)

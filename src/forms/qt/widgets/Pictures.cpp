@@ -18,19 +18,15 @@ QImage ReadPicture(const std::string& file) {
   return reader.read();
 }
 
-void PictureArea::Show(const std::string& file) {
+void PictureArea::Show(const std::string& file, QPointF place) {
+  place_ = place;
+  update();
   const QDateTime changed = QFileInfo(QString::fromStdString(file)).lastModified();
   if (file == file_ && changed == readAs_) return;
   file_ = file;
   readAs_ = changed;
   image_ = file.empty() ? QImage() : ReadPicture(file);
   image_.setDevicePixelRatio(1);
-  update();
-}
-
-void PictureArea::MoveTo(QPointF place) {
-  place_ = place;
-  update();
 }
 
 void PictureArea::paintEvent(QPaintEvent* /*event*/) {

@@ -20,8 +20,7 @@ class PictureArea : public QWidget {
   using QWidget::QWidget;
 
   // Reads the file if it isn't the one that shows or has changed since. Empty shows nothing.
-  void Show(const std::string& file);
-  void MoveTo(QPointF place);
+  void Show(const std::string& file, QPointF place);
 
  protected:
   void paintEvent(QPaintEvent* event) override;

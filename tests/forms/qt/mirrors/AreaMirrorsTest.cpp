@@ -34,6 +34,14 @@ class AreaMirrorsTest : public MirrorBench {
     return Path(name);
   }
 
+  std::string Saved(const QImage& image, const QString& name, const QDateTime& changed) const {
+    const std::string path = Saved(image, name);
+    QFile file(folder.filePath(name));
+    EXPECT_TRUE(file.open(QIODevice::ReadWrite));
+    EXPECT_TRUE(file.setFileTime(changed, QFileDevice::FileModificationTime));
+    return path;
+  }
+
   // The frame with its picture, as painted, a pixel for each of the picture's.
   QImage Painted() {
     PictureFrameMirror& around = mirrors.AddAround(frame, picture, &window);
@@ -78,16 +86,24 @@ TEST_F(AreaMirrorsTest, AClearedPictureShowsNothing) {
 }
 
 TEST_F(AreaMirrorsTest, AFileThatHasChangedIsReadAnew) {
-  picture.Show(Saved(Grid(50, 40), "car.bmp"), 50, 40);
+  const QDateTime now = QDateTime::currentDateTime();
+  picture.Show(Saved(Grid(50, 40), "car.bmp", now), 50, 40);
   mirrors.AddAround(frame, picture, &window);
-  const std::string file = Saved(Grid(30, 20), "car.bmp");
-  QFile changed(QString::fromStdString(file));
-  ASSERT_TRUE(changed.open(QIODevice::ReadWrite));
-  ASSERT_TRUE(changed.setFileTime(QDateTime::currentDateTime().addSecs(60),
-                                  QFileDevice::FileModificationTime));
-  changed.close();
-  picture.Show(file, 30, 20);
+  picture.Show(Saved(Grid(30, 20), "car.bmp", now.addSecs(60)), 30, 20);
   EXPECT_EQ(Difference(picture), "");
+}
+
+TEST_F(AreaMirrorsTest, AnotherFileOfTheSameTimeIsReadAndPainted) {
+  const QDateTime now = QDateTime::currentDateTime();
+  const std::string bus = Saved(Grid(50, 40), "bus.bmp", now);
+  const std::string taxi = Saved(Grid(30, 20), "taxi.bmp", now);
+  Raise(mirrors.AddAround(frame, picture, &window).Widget());
+  QWidget& area = mirrors.Of(picture).Widget();
+  for (const std::string& file : {bus, taxi, bus}) {
+    const int width = file == bus ? 50 : 30;
+    EXPECT_GT(PaintsAfter([&] { picture.Show(file, width, width - 10); }, area), 0);
+    EXPECT_EQ(Difference(picture), "");
+  }
 }
 
 TEST_F(AreaMirrorsTest, APictureIsToldByItsContentAndNotByItsName) {
