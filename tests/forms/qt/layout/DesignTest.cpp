@@ -109,6 +109,7 @@ TEST_F(MainDesignTest, TheButtonsOfTheVehiclesAreAQuarterOfThePageEach) {
   EXPECT_NEAR(Place(main.cmdImportCar).width(), Place(main.SSTab1).width() / 4, letter);
   EXPECT_EQ(Place(main.cmdExportCar).size(), Place(main.cmdImportCar).size());
   EXPECT_EQ(Beside(main.cmdImportCar, main.cmdExportCar), letter);
+  EXPECT_EQ(Below(main.cmdImportCar, main.frameAuthor), letter);
   EXPECT_EQ(Beside(main.frameAuthor, main.frameDate), letter);
 }
 
@@ -117,10 +118,15 @@ TEST_F(MainDesignTest, TheHalvesOfTheColorPagesStandInTheirOrder) {
   Settle();
   EXPECT_EQ(Beside(main.cmdNewColor, main.cmdDeleteColor), letter);
   EXPECT_EQ(Beside(main.lstColors, main.lblColorName), letter);
+  const int row = Of<QComboBox>(main.cmbAutos).sizeHint().height() + letter / 2;
+  EXPECT_EQ(Place(main.HScroll1).translated(0, row), Place(main.HScroll2));
+  EXPECT_EQ(Place(main.HScroll2).translated(0, row), Place(main.HScroll3));
   EXPECT_EQ(Place(main.picFarbe).right(), Place(main.txtColorName).right());
   main.SSTab3.ClickByHand(kPairsTab);
   Settle();
   EXPECT_EQ(Beside(main.frameColors, main.frameAddColors), letter);
+  EXPECT_EQ(Below(main.picColor1, main.picColor2), letter / 2);
+  EXPECT_EQ(Below(main.picColor2, main.cmdAddColor), letter / 2);
 }
 
 }  // namespace

@@ -25,6 +25,8 @@ TEST_F(CaptionMirrorsTest, ALabelIsPlainText) {
   auto& widget = Show<QLabel>(label);
   EXPECT_EQ(widget.textFormat(), Qt::PlainText);
   EXPECT_EQ(widget.text(), "<b>x</b> R&D %1");
+  label.SetCaption("&R &&&");
+  EXPECT_EQ(widget.text(), "R &&");
 }
 
 TEST_F(CaptionMirrorsTest, ALabelsMarkIsTheWayToItsInput) {

@@ -94,6 +94,16 @@ TEST_F(PickListMirrorTest, TheChosenEntryStaysChosenWhenRowsJoinAndShowsItsNewTe
   EXPECT_EQ(runs, 0);
 }
 
+TEST_F(PickListMirrorTest, TwentyRowsDropDownOfALongList) {
+  pick.Clear();
+  pick.AddRows(std::vector<std::string>(100, "row"));
+  combo.showPopup();
+  Settle();
+  const QAbstractItemView& view = *combo.view();
+  const QRect last = view.visualRect(combo.model()->index(19, 0));
+  EXPECT_EQ(view.viewport()->rect().bottom(), last.bottom());
+}
+
 TEST_F(PickListMirrorTest, EntriesOnlyAreOffered) { EXPECT_FALSE(combo.isEditable()); }
 
 // A drop-down in the form of a menu, which some styles have, reads marks in the rows and has no

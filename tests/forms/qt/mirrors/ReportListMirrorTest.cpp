@@ -44,6 +44,12 @@ TEST_F(ReportListMirrorTest, RowsShowInOrderOfArrivalAndGoAllAtOnce) {
   EXPECT_EQ(Difference(report), "");
 }
 
+TEST_F(ReportListMirrorTest, RowsThatAreThereAlreadyShow) {
+  AddRows(2);
+  Show<QTreeView>(report);
+  EXPECT_EQ(Difference(report), "");
+}
+
 TEST_F(ReportListMirrorTest, AFieldsCaptionShowsWithoutItsMarksAndTextsOfTheFileAsTheyAre) {
   report.AddRow({"R&&D &x", "Engine && &drive", "<b>7</b> && 8"});
   EXPECT_EQ(Cell(0, 0), "R&&D &x");

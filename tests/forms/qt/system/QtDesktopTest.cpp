@@ -24,6 +24,7 @@ class BoxHand : public ModalHand {
           EXPECT_EQ(box.icon(), icon);
           EXPECT_EQ(box.text(), text);
           EXPECT_EQ(box.windowTitle(), "Wheelwright");
+          EXPECT_EQ(QApplication::overrideCursor(), nullptr);
           EXPECT_EQ(box.findChild<QLabel*>("qt_msgbox_label")->textFormat(), Qt::PlainText);
           if (button == QMessageBox::Escape) {
             box.close();
@@ -59,6 +60,29 @@ TEST(QtDesktopTest, AQuestionIsTrueForYesAlone) {
   }
   const BoxHand hand(QMessageBox::NoIcon, kOddTextShown, QMessageBox::Escape);
   EXPECT_FALSE(desktop.AskYesNo(kOddText));
+}
+
+TEST(QtDesktopTest, WithoutAnActiveWindowABoxBelongsToTheOneThatOwnsTheOthersIfItIsShown) {
+  QWidget owner;
+  QWidget owned(&owner, Qt::Window);
+  const auto show = [](QWidget& window) {
+    window.setAttribute(Qt::WA_ShowWithoutActivating);
+    window.show();
+    ASSERT_EQ(QApplication::activeWindow(), nullptr);
+  };
+  const auto ownerOfBox = [] {
+    QWidget* found = nullptr;
+    const ModalHand hand([&](QWidget& modal) {
+      found = modal.parentWidget();
+      modal.close();
+    });
+    QtDesktop().ShowInformation("");
+    return found;
+  };
+  show(owned);
+  EXPECT_EQ(ownerOfBox(), nullptr);
+  show(owner);
+  EXPECT_EQ(ownerOfBox(), &owner);
 }
 
 TEST(QtDesktopTest, ThePointerIsSetOnceAndGivenBack) {

@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QScrollBar>
 #include <QWheelEvent>
+#include <QtTest/QTest>
 
 namespace wheelwright::testing {
 namespace {
@@ -39,6 +40,19 @@ TEST_F(InputsTest, AScrollBarTurnsWithTheFocusOnly) {
   widget.setFocus();
   EXPECT_TRUE(Turn(widget));
   EXPECT_NE(bar.Value(), 100);
+}
+
+TEST_F(InputsTest, AKeyDoesNotReverseTheWheelOfAScrollBar) {
+  auto& widget = Show<QScrollBar>(bar);
+  widget.setFocus();
+  const auto valueAfterTurn = [&] {
+    bar.SetValue(100);
+    Turn(widget);
+    return bar.Value();
+  };
+  const int before = valueAfterTurn();
+  QTest::keyClick(&widget, Qt::Key_Up);
+  EXPECT_EQ(valueAfterTurn(), before);
 }
 
 TEST_F(InputsTest, TheWheelAloneGivesNoFocus) {
