@@ -98,6 +98,18 @@ TEST_F(ListBoxMirrorTest, TheArrowKeysChooseAndReturnAndSpaceChooseAgain) {
   EXPECT_EQ(runs, 3);
 }
 
+// The code of a key that the toolkit doesn't know is zero.
+TEST_F(ListBoxMirrorTest, OtherKeysDoNotChooseAgain) {
+  list.Choose(0);
+  runs = 0;
+  view.setFocus();
+  for (const Qt::Key key : {Qt::Key(0), Qt::Key_Exclam, Qt::Key_Escape, Qt::Key_Shift}) {
+    QTest::sendKeyEvent(QTest::Click, &view, key, QString(), {});
+  }
+  EXPECT_EQ(Row(), 0);
+  EXPECT_EQ(runs, 0);
+}
+
 TEST_F(ListBoxMirrorTest, ReturnAndSpaceChooseTheRowUnderTheCursorWhenNothingIsChosen) {
   for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space}) {
     list.Clear();
