@@ -90,14 +90,14 @@ class Bench:
             capture_output=True, text=True, check=False)
         return Outcome(done.returncode == 0, True, done.stdout + done.stderr)
 
-    def prepare(self, programs, entries):
-        """Builds programs of the unchanged copy and tries their tests, which says how long they may take."""
+    def prepare(self, judges):
+        """Builds the unchanged copy and tries the tests of the judges, which says how long these may take."""
         subprocess.run(["cmake", "--preset", "mutants", "--log-level=WARNING"], cwd=self.tree,
                        stdout=subprocess.DEVNULL, check=True)
-        built = self.compile(*programs)
+        built = self.compile(*sorted({program for judge in judges for program in judge.programs}))
         if not built.passed:
             sys.exit(built.output)
-        for entry in entries:
+        for entry in sorted({judge.entry for judge in judges}):
             began = time.monotonic()
             outcome = self.tests(entry)
             if not outcome.passed:

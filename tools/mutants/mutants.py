@@ -30,36 +30,34 @@ NOT_COMPILED = "doesn't compile"
 
 @dataclass(frozen=True)
 class Judge:
-    """An entry of ctest and which of its tests are run, given the bench and the changed file."""
+    """An entry of ctest, the programs it needs, and which of its tests are run, given the bench and the
+    changed file."""
     name: str
     entry: str
+    programs: tuple
     chosen: Callable = lambda bench, file: "*"
 
 
-@dataclass(frozen=True)
-class Half:
-    """A half of the program, what is built of it, and its judges, the quickest first."""
-    programs: tuple
-    judges: tuple
+# The quickest first.
+UNIT_TESTS = ("wheelwright-tests", ("wheelwright-tests",))
+LOGIC = (
+    Judge("the unit tests beside it", *UNIT_TESTS, Bench.suites_beside),
+    Judge("the other unit tests", *UNIT_TESTS),
+    Judge("the sessions", "sessions-plain", ("wheelwright-replay",)))
+WIDGET_TESTS = ("wheelwright-widget-tests", ("wheelwright-widget-tests",))
+WINDOWS = (
+    Judge("the widget tests", *WIDGET_TESTS, lambda bench, file: f"-{WALK}"),
+    Judge("the walk through all windows", *WIDGET_TESTS, lambda bench, file: WALK),
+    Judge("the program's own tests", "program", ("wheelwright", "wheelwright-person")))
 
 
-LOGIC = Half(("wheelwright-tests", "wheelwright-replay"), (
-    Judge("the unit tests beside it", "wheelwright-tests", Bench.suites_beside),
-    Judge("the other unit tests", "wheelwright-tests"),
-    Judge("the sessions", "sessions-plain")))
-WINDOWS = Half(("wheelwright-widget-tests", "wheelwright", "wheelwright-person"), (
-    Judge("the widget tests", "wheelwright-widget-tests", lambda bench, file: f"-{WALK}"),
-    Judge("the walk through all windows", "wheelwright-widget-tests", lambda bench, file: WALK),
-    Judge("the program's own tests", "program")))
-
-
-def sources_of(bench, half):
-    """Sources of a half that this system compiles, and its headers."""
+def sources_of(bench, judges):
+    """Sources of the half of the program that this system compiles, and its headers."""
     headers = [file.relative_to(bench.tree) for file in bench.tree.rglob("src/**/*.h")]
     files = {str(file) for file in [*bench.compiled_files(), *headers] if file.parts[0] == "src"}
     windows = {file for file in files if file.startswith("src/forms/qt/") or file == "src/main.cpp"}
     others = {file for file in files if file.startswith("src/core/windows/")}
-    return sorted(windows if half is WINDOWS else files - windows - others)
+    return sorted(windows if judges is WINDOWS else files - windows - others)
 
 
 def difference(before, after):
@@ -67,11 +65,11 @@ def difference(before, after):
     return "\n".join("    " + line for line in lines[2:])
 
 
-def finder(bench, half, file):
+def finder(bench, judges, file):
     """What finds the mistake that is in the copy just now."""
-    if not bench.compile(*half.programs).passed:
-        return NOT_COMPILED
-    for judge in half.judges:
+    for judge in judges:
+        if not bench.compile(*judge.programs).passed:
+            return NOT_COMPILED
         outcome = bench.tests(judge.entry, judge.chosen(bench, file))
         if not outcome.ended:
             return "a hang"
@@ -80,15 +78,15 @@ def finder(bench, half, file):
     return SURVIVED
 
 
-def try_site(bench, half, site, text):
+def try_site(bench, judges, site, text):
     """Puts the mistake in, looks who finds it and takes it out again; the finder and the difference."""
     source = (bench.tree / site.file).read_text(encoding="utf-8")
     mistaken = source[:site.start] + text + source[site.end:]
     with bench.changed(site.file, mistaken):
-        return finder(bench, half, site.file), difference(source, mistaken)
+        return finder(bench, judges, site.file), difference(source, mistaken)
 
 
-def play(bench, half, sites, count, log):
+def play(bench, judges, sites, count, log):
     """Tries sites in their order until `count` of them have compiled; how many each finder found."""
     found = collections.Counter()
     for site, text in sites:
@@ -96,7 +94,7 @@ def play(bench, half, sites, count, log):
             break
         source = (bench.tree / site.file).read_text(encoding="utf-8")
         place = f"{site.file}:{source.count(chr(10), 0, site.start) + 1}"
-        found_by, lines = try_site(bench, half, site, text)
+        found_by, lines = try_site(bench, judges, site, text)
         found[found_by] += 1
         entry = f"{place}: {site.kind}: {found_by}\n{lines}"
         print(entry, file=log, flush=True)
@@ -105,26 +103,26 @@ def play(bench, half, sites, count, log):
     return found
 
 
-def drawn_sites(bench, half, seed):
+def drawn_sites(bench, judges, seed):
     dice = random.Random(seed)
-    sites = [site for file in sources_of(bench, half)
+    sites = [site for file in sources_of(bench, judges)
              for site in sites_of(file, (bench.tree / file).read_text(encoding="utf-8"))]
     dice.shuffle(sites)
     return [(site, dice.choice(site.choices)) for site in sites]
 
 
 def main():
-    half = WINDOWS if sys.argv[1:2] == ["--windows"] else LOGIC
-    numbers = sys.argv[2 if half is WINDOWS else 1:]
+    judges = WINDOWS if sys.argv[1:2] == ["--windows"] else LOGIC
+    numbers = sys.argv[2 if judges is WINDOWS else 1:]
     if len(numbers) > 2 or not all(word.isdigit() for word in numbers):
         sys.exit(__doc__)
     count, seed = [int(word) for word in numbers] + [200, random.randrange(10**6)][len(numbers):]
     bench = Bench(ROOT, FOLDER)
-    bench.prepare(half.programs, sorted({judge.entry for judge in half.judges}))
-    sites = drawn_sites(bench, half, seed)
+    bench.prepare(judges)
+    sites = drawn_sites(bench, judges, seed)
     print(f"seed {seed}, {len(sites)} places")
     with (FOLDER / "log").open("w", encoding="utf-8") as log:
-        found = play(bench, half, sites, count, log)
+        found = play(bench, judges, sites, count, log)
     compiled = found.total() - found[NOT_COMPILED]
     summary = ", ".join(f"{number} {name}" for name, number in found.most_common())
     print(f"{compiled} mistakes tried, {compiled - found[SURVIVED]} found: {summary}")
