@@ -1,6 +1,5 @@
 // The disk of every system but Windows.
 #include "core/DiskFiles.h"
-#include "core/posix/RegularFile.h"
 #include "core/posix/WholeFile.h"
 
 #include <algorithm>

@@ -1,7 +1,5 @@
 // The disk on Windows.
 #include "core/DiskFiles.h"
-#include "core/windows/Failures.h"
-#include "core/windows/Path.h"
 #include "core/windows/WholeFileOfWindows.h"
 #include "core/windows/WideText.h"
 

@@ -1,6 +1,8 @@
-// How a file gets a whole new text on Windows: in place, so that it keeps its links, its rights and
-// its attributes.
+// Files on Windows: its error numbers as failures of the program's own, and how a file gets a whole
+// new text in place, so that it keeps its links, its rights and its attributes.
 #pragma once
+
+#include "core/Failure.h"
 
 #include <cstddef>
 #include <memory>
@@ -9,6 +11,12 @@
 #include <windows.h>
 
 namespace wheelwright {
+
+// The failure for an error of opening or reading a file; an error that no row knows is failure 57.
+Failure FailureOfReading(unsigned long windowsError);
+
+// The same for writing, where a file that isn't there means that its folder isn't.
+Failure FailureOfWriting(unsigned long windowsError);
 
 // A single call moves at most this much.
 inline constexpr std::size_t kLargestStep = 1U << 24U;

@@ -3,6 +3,16 @@
 #include <windows.h>
 
 namespace wheelwright {
+namespace {
+
+std::wstring FullPath(const std::wstring& path) {
+  const DWORD size = GetFullPathNameW(path.c_str(), 0, nullptr, nullptr);
+  std::wstring full(size, L'\0');
+  full.resize(GetFullPathNameW(path.c_str(), size, full.data(), nullptr));
+  return full;
+}
+
+}  // namespace
 
 std::wstring WideOf(std::string_view utf8) {
   const int size = static_cast<int>(utf8.size());
@@ -19,6 +29,16 @@ std::string Utf8Of(std::wstring_view wide) {
   std::string utf8(static_cast<std::size_t>(size), '\0');
   WideCharToMultiByte(CP_UTF8, 0, wide.data(), wideSize, utf8.data(), size, nullptr, nullptr);
   return utf8;
+}
+
+std::wstring DiskPath(const std::string& path) {
+  // The limit for folders is twelve less than that for files.
+  constexpr std::size_t kLongestUnmarked = MAX_PATH - 13;
+  const std::wstring wide = WideOf(path);
+  if (wide.size() <= kLongestUnmarked || wide.starts_with(L"\\\\?\\")) return wide;
+  const std::wstring full = FullPath(wide);
+  if (full.starts_with(L"\\\\")) return L"\\\\?\\UNC\\" + full.substr(2);
+  return L"\\\\?\\" + full;
 }
 
 }  // namespace wheelwright

@@ -1,4 +1,4 @@
-#include "core/windows/Failures.h"
+#include "core/windows/WholeFileOfWindows.h"
 
 #include <gtest/gtest.h>
 #include <utility>

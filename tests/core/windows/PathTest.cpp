@@ -1,4 +1,4 @@
-#include "core/windows/Path.h"
+#include "core/windows/WideText.h"
 
 #include <gtest/gtest.h>
 #include <string>
