@@ -13,29 +13,24 @@ namespace wheelwright {
 namespace {
 
 struct BoatCaption {
-  Label FrmMain::*label;
-  int lang;
+  TextField FrmMain::*field;
+  std::size_t lang;
 };
 
 constexpr std::array<BoatCaption, 9> kBoatCaptions = {{
-    {&FrmMain::lblTractionMulti, 169},
-    {&FrmMain::lblTractionLoss, 170},
-    {&FrmMain::lblTractionBias, 171},
-    {&FrmMain::lblBrakeBias, 172},
-    {&FrmMain::lblBremsstaerke, 173},
-    {&FrmMain::lblKraftlevel, 174},
-    {&FrmMain::lblDLevel, 175},
-    {&FrmMain::lblULimit, 176},
-    {&FrmMain::lblBias, 177},
+    {&FrmMain::txtTractionMulti, 169},
+    {&FrmMain::txtTractionLoss, 170},
+    {&FrmMain::txtTractionBias, 171},
+    {&FrmMain::txtBrakeBias, 172},
+    {&FrmMain::txtBremsstaerke, 173},
+    {&FrmMain::txtKraftlevel, 174},
+    {&FrmMain::txtDLevel, 175},
+    {&FrmMain::txtULimit, 176},
+    {&FrmMain::txtBias, 177},
 }};
 
 // The captions are set between this field and the next one.
 constexpr auto kLastFieldBeforeCaptions = &Car::TractionBias;
-
-const FieldRow<Car>& FieldOf(Label FrmMain::*label) {
-  return *std::find_if(kHandlingFields.begin(), kHandlingFields.end(),
-                       [=](const FieldRow<Car>& field) { return field.label.control == label; });
-}
 
 // The snapshot only has the vehicles of the last load or save; one behind its end is an ordinary
 // one.
@@ -92,12 +87,15 @@ void ShowHandlingRecord(Session& session) {
 
 void ApplyLineKindCaptions(Session& session, std::int16_t lineKind) {
   const auto& lang = session.vars.Lang;
-  const auto entry = [&](int index) { return lang[static_cast<std::size_t>(index)]; };
-  const bool boat = lineKind == kPercentLine;
   for (const BoatCaption& caption : kBoatCaptions) {
-    const FieldRow<Car>& field = FieldOf(caption.label);
-    (session.main.*caption.label).SetCaption(entry(boat ? caption.lang : field.label.lang));
-    (session.main.*field.hint.control).SetCaption(boat ? "" : entry(field.hint.lang));
+    FieldLabels& labels = session.main.*caption.field;
+    if (lineKind == kPercentLine) {
+      labels.label.SetCaption(lang.at(caption.lang));
+      labels.hint->SetCaption("");
+    } else {
+      labels.label.Translate(lang);
+      labels.hint->Translate(lang);
+    }
   }
 }
 

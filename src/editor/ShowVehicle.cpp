@@ -1,6 +1,7 @@
 #include "editor/ShowVehicle.h"
 
 #include "editor/ColorPairs.h"
+#include "editor/DefinitionRecord.h"
 
 #include <array>
 #include <string>

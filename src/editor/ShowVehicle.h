@@ -19,8 +19,4 @@ void ShowHandlingRecord(Session& session);
 // empty.
 void ApplyLineKindCaptions(Session& session, std::int16_t lineKind);
 
-// Makes the first definition of the chosen handling ID current, record 0 if none has it, and fills
-// the tabs. Failure 9 if no definition file was ever loaded.
-void ShowDefinitionRecord(Session& session);
-
 }  // namespace wheelwright

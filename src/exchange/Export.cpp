@@ -2,7 +2,6 @@
 
 #include "formats/ExportFile.h"
 #include "gamefiles/FileKinds.h"
-#include "screen/Captions.h"
 
 #include <string>
 #include <vector>
@@ -46,15 +45,11 @@ void WriteVehicles(Session& session, const std::string& before, Writer write) {
 
 void OpenExportWindow(Session& session) {
   FrmExport& window = session.exporter;
-  CaptionExportWindow(session);
+  window.Translate(session.vars.Lang);
   window.lst1.Clear();
   window.lst2.Clear();
   window.lst1.AddRows(session.main.cmbAutos.Rows());
   window.SetVisible(true);
-}
-
-void CaptionExportWindow(Session& session) {
-  ApplyCaptions(CaptionsOf(session.exporter), session.vars.Lang);
 }
 
 void MoveMarkedRows(MarkList& from, MarkList& to) {

@@ -5,12 +5,9 @@
 
 namespace wheelwright {
 
-// cmdExportCar: puts every entry of cmbAutos into the left list and shows the window, which blocks
-// nothing. A window that is up is used again.
+// cmdExportCar: puts the texts of the language onto the window and every entry of cmbAutos into its
+// left list, and shows it, which blocks nothing. A window that is up is used again.
 void OpenExportWindow(Session& session);
-
-// Puts the texts of the language onto the window, each time it is loaded.
-void CaptionExportWindow(Session& session);
 
 // Move the marked rows, or all rows, from one list to the other. Both lists sort themselves.
 void MoveMarkedRows(MarkList& from, MarkList& to);

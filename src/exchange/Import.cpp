@@ -9,7 +9,7 @@
 namespace wheelwright {
 namespace {
 
-void PrepareDialog(Session& session) {
+void PrepareImportDialog(Session& session) {
   FileDialog& dialog = session.main.CmD1;
   dialog.title = Message(session, kImportTitle);
   dialog.filter = FilterOfKind(session, kFileKinds[kHandlingFile]);
@@ -29,7 +29,7 @@ void TakeVehicles(Session& session, const std::string& text) {
 void ImportVehicles(Session& session) {
   const auto normalPointer = [&] { session.desktop.SetPointer(Pointer::Normal); };
   const auto import = [&] {
-    PrepareDialog(session);
+    PrepareImportDialog(session);
     session.desktop.ShowOpen(session.main.CmD1);
     session.desktop.SetPointer(Pointer::Hourglass);
     if (!session.files.Exists(session.main.CmD1.file)) {

@@ -16,7 +16,19 @@ class EventEdge {
 
   // Runs what an event asks for. A failure that nothing caught on the way ends the program; from
   // then on events are ignored.
-  void Enter(const std::function<void()>& event);
+  void Enter(const std::function<void()>& event) {
+    if (ended_) return;
+    try {
+      try {
+        event();
+      } catch (...) {
+        ended_ = true;
+        EndByFailure(FailureInFlight());
+      }
+    } catch (...) {
+      EndByOtherException();
+    }
+  }
 
  protected:
   // The failure that ends the program.

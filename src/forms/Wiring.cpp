@@ -2,15 +2,15 @@
 
 #include "catalogue/Palette.h"
 #include "catalogue/Vehicles.h"
+#include "core/DiskFiles.h"
+#include "core/Version.h"
 #include "editor/ColorPairs.h"
+#include "editor/DefinitionRecord.h"
 #include "editor/ModelFlags.h"
 #include "editor/ShowVehicle.h"
-#include "editor/TypeRules.h"
 #include "editor/WriteThrough.h"
 #include "exchange/Export.h"
 #include "exchange/Import.h"
-#include "forms/Lifecycle.h"
-#include "gamefiles/BackupRevert.h"
 #include "gamefiles/LoadProblems.h"
 #include "gamefiles/OpenFile.h"
 #include "gamefiles/SaveFile.h"
@@ -113,6 +113,27 @@ void WireEvents(Session& session) {
   WireDefinitionTabs(session);
   WireColorTabs(session);
   WireOtherWindows(session);
+}
+
+void StartUp(Session& session, const std::string& programDirectory) {
+  Vars& vars = session.vars;
+  vars.AppPath = programDirectory;
+  if (!vars.AppPath.ends_with(kPathSeparator)) vars.AppPath += kPathSeparator;
+  session.settings.Set("Exe", "Path", vars.AppPath);
+  session.settings.Set("Exe", "Version", VersionText());
+  vars.CurrentFileType = kHandlingFile;
+  session.main.SSTab1.SetVisible(true);
+  session.main.SSTab2.SetVisible(false);
+  session.main.SSTab3.SetVisible(false);
+  session.error.SetVisible(false);
+  vars.IsSaved = true;
+  DiscoverLanguages(session);
+}
+
+void RequestEnd(Session& session) {
+  if (session.vars.IsSaved || session.desktop.AskQuestion(Message(session, kExitAnyway))) {
+    session.desktop.EndProgram();
+  }
 }
 
 }  // namespace wheelwright

@@ -12,7 +12,7 @@ std::string CaptionOf(const FrmMain& main, std::string Car::*value) {
   const auto field = std::find_if(kHandlingFields.begin(), kHandlingFields.end(),
                                   [&](const FieldRow<Car>& row) { return row.value == value; });
   const bool isNamed = field != kHandlingFields.end() && field->isNamedInProblems;
-  return isNamed ? (main.*field->label.control).Caption() : "";
+  return isNamed ? LabelsOf(main, *field).label.Caption() : "";
 }
 
 ReportList::Row RowOf(const Session& session, const LineProblem& problem) {

@@ -9,7 +9,7 @@
 namespace wheelwright {
 namespace {
 
-void PrepareDialog(Session& session) {
+void PrepareOpenDialog(Session& session) {
   FileDialog& dialog = session.main.CmD1;
   dialog.title = Message(session, kOpenTitle);
   dialog.filter = FilterOfAllKinds(session);
@@ -71,7 +71,7 @@ void EndWithError(Session& session, const std::string& text) {
 
 void OpenChosenFile(Session& session) {
   FrmMain& main = session.main;
-  PrepareDialog(session);
+  PrepareOpenDialog(session);
   session.desktop.ShowOpen(main.CmD1);
   session.desktop.SetPointer(Pointer::Hourglass);
   RememberChoice(session);

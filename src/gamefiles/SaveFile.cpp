@@ -22,7 +22,7 @@ bool WriteTables(Session& session, const std::string& target) {
   return true;
 }
 
-void PrepareDialog(Session& session) {
+void PrepareSaveDialog(Session& session) {
   FileDialog& dialog = session.main.CmD1;
   // Without a filter of its own a kind keeps that of the open dialog.
   const FileKind& kind = KindOfOpenFile(session.vars);
@@ -40,12 +40,36 @@ void SaveFile(Session& session) {
 void SaveFileAs(Session& session) {
   Guarded(session, [&] {
     FileDialog& dialog = session.main.CmD1;
-    PrepareDialog(session);
+    PrepareSaveDialog(session);
     session.desktop.ShowSave(dialog);
     if (!WriteTables(session, dialog.file)) return;
     session.vars.CurrentFile = dialog.file;
     session.main.SetTitle("GTA3 PC-Version - Wheelwright [" + session.vars.CurrentFile + "]");
     session.desktop.ShowInformation(Message(session, kFileWasSaved));
+  });
+}
+
+void BackupFile(Session& session) {
+  const std::string& file = session.vars.CurrentFile;
+  if (file.empty()) return;
+  const std::string backup = file + kBackupEnding;
+  const bool replaces = session.files.Exists(backup);
+  if (replaces && !session.desktop.AskYesNo(Message(session, kReplaceBackup))) return;
+  Guarded(session, [&] {
+    session.files.Copy(file, backup);
+    session.desktop.ShowInformation(Message(session, kBackupWasMade) + "\r\n" + backup);
+  });
+}
+
+void RevertToSnapshot(Session& session) {
+  Guarded(session, [&] {
+    if (!session.desktop.AskYesNo(Message(session, kDiscardChanges))) return;
+    session.main.cmbAutos.Clear();
+    const FileKind& kind = KindOfOpenFile(session.vars);
+    kind.copy(session.vars, Snapshots::PutBack);
+    kind.fillLists(session);
+    session.main.cmbAutos.Choose(0);
+    session.desktop.ShowInformation(Message(session, kChangesWereReverted));
   });
 }
 

@@ -3,7 +3,7 @@
 #include "core/CodePage.h"
 #include "editor/ShowVehicle.h"
 #include "formats/LanguageFile.h"
-#include "language/ApplyLanguage.h"
+#include "screen/Fields.h"
 
 #include <algorithm>
 #include <string>
@@ -33,6 +33,19 @@ void ChooseRowWithText(PickList& list, const std::string& text) {
 }
 
 }  // namespace
+
+void ApplyLanguage(Session& session) {
+  const auto& lang = session.vars.Lang;
+  session.main.Translate(lang);
+  session.error.Translate(lang);
+  session.exporter.Translate(lang);
+  for (const FieldRow<Car>& field : kHandlingFields) {
+    auto* const list = InputOf<PickList>(session.main, field);
+    for (int row = 0; list != nullptr && row < list->Count(); ++row) {
+      list->ReplaceRow(row, lang.at(static_cast<std::size_t>(field.entries.firstLang + row)));
+    }
+  }
+}
 
 void DiscoverLanguages(Session& session) {
   const std::vector<std::string> languages = LanguagesBeside(session);

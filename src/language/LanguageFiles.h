@@ -1,4 +1,4 @@
-// The language files "*.lng" beside the program.
+// The language files "*.lng" beside the program, and the way of their texts to the screen.
 #pragma once
 
 #include "screen/Session.h"
@@ -17,5 +17,9 @@ void ChooseLanguage(Session& session);
 // Reads the file of the chosen language, if it is there, over the table and applies the table.
 // Entries behind the file's end stay as they are.
 void LoadChosenLanguage(Session& session);
+
+// Writes every entry of the table to its caption, pick list row, tab or column in all three
+// windows. No choice changes. A caption whose entry is empty becomes empty.
+void ApplyLanguage(Session& session);
 
 }  // namespace wheelwright

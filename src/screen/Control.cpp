@@ -14,6 +14,10 @@ void Window::SetVisible(bool visible) {
   Run(notice);
 }
 
+void Window::Translate(std::span<const std::string> lang) {
+  for (Control* control : controls_) control->Translate(lang);
+}
+
 Control* Window::Find(const std::string& name) const {
   const auto found = std::find_if(controls_.begin(), controls_.end(),
                                   [&](const Control* control) { return control->Name() == name; });

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -28,6 +29,9 @@ class Window {
   const std::vector<Control*>& Controls() const { return controls_; }
   // The control of that name, or null.
   Control* Find(const std::string& name) const;
+
+  // Gives all controls the texts of a language table.
+  void Translate(std::span<const std::string> lang);
 
   // The handler of the window's own close box or the system's close request.
   std::function<void()> closeRequested;
@@ -74,6 +78,9 @@ class Control {
   // in front and not whether the window is up.
   bool IsEnabledHere() const;
   bool IsVisibleHere() const;
+
+  // Puts the entries of a language table in the place of the control's texts.
+  virtual void Translate(std::span<const std::string> /*lang*/) {}
 
   // Puts the control into a frame or onto a page of a tab group.
   void PutInto(Control& container, int page = 0);

@@ -1,6 +1,6 @@
 #include "screen/Controls.h"
 
-#include "core/Failure.h"
+#include "core/CodePage.h"
 
 #include <algorithm>
 
@@ -16,7 +16,18 @@ std::string WithoutMnemonicMarks(const std::string& caption) {
   return read;
 }
 
+const std::string& EntryFor(const Wording& wording, std::span<const std::string> lang) {
+  return lang[static_cast<std::size_t>(wording.lang)];
+}
+
 }  // namespace
+
+Captioned::Captioned(Window& window, std::string name, Wording wording)
+    : Control(window, std::move(name)), wording_(wording), caption_(FromUnicode(wording.design)) {}
+
+void Captioned::Translate(std::span<const std::string> lang) {
+  if (wording_.lang != kNoLang) SetCaption(EntryFor(wording_, lang));
+}
 
 void Captioned::SetCaption(std::string caption) {
   caption_ = std::move(caption);
@@ -53,10 +64,17 @@ void ScrollBar::SetValue(int value) {
   Run(changed);
 }
 
-void TabGroup::SetTabs(const std::vector<std::string>& captions) {
-  tabs_.clear();
-  for (const std::string& caption : captions) tabs_.push_back(WithoutMnemonicMarks(caption));
-  Tell(Aspect::Content);
+TabGroup::TabGroup(Window& window, std::string name, std::vector<Wording> wordings)
+    : Control(window, std::move(name)), wordings_(std::move(wordings)) {
+  for (const Wording& tab : wordings_) {
+    tabs_.push_back(WithoutMnemonicMarks(FromUnicode(tab.design)));
+  }
+}
+
+void TabGroup::Translate(std::span<const std::string> lang) {
+  for (std::size_t tab = 0; tab < tabs_.size(); ++tab) {
+    SetTab(static_cast<int>(tab), EntryFor(wordings_[tab], lang));
+  }
 }
 
 void TabGroup::SetTab(int tab, const std::string& caption) {
@@ -94,6 +112,15 @@ void Swatch::Fill(int red, int green, int blue) {
   const auto cut = [](int component) { return std::clamp(component, 0, 255); };
   color_ = {cut(red), cut(green), cut(blue)};
   Tell(Aspect::Content);
+}
+
+ReportList::ReportList(Window& window, std::string name, const Headers& headers)
+    : Control(window, std::move(name)), headers_(headers) {
+  for (std::size_t i = 0; i < kColumns; ++i) columns_[i] = FromUnicode(headers_[i].design);
+}
+
+void ReportList::Translate(std::span<const std::string> lang) {
+  for (std::size_t i = 0; i < kColumns; ++i) SetColumn(i, EntryFor(headers_[i], lang));
 }
 
 void ReportList::SetColumn(std::size_t column, std::string header) {

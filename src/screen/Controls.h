@@ -12,14 +12,26 @@
 
 namespace wheelwright {
 
+// Of a text that is in no language.
+inline constexpr int kNoLang = -1;
+
+// A text of a control as it is built, in UTF-8, and the entry of the language table for its place.
+struct Wording {
+  const char* design = "";
+  int lang = kNoLang;
+};
+
 // Anything with a caption. A caption is kept as it was set, mnemonic marks ("&x", "&&") included.
 class Captioned : public Control {
  public:
-  using Control::Control;
+  Captioned(Window& window, std::string name, Wording wording = {});
+  void Translate(std::span<const std::string> lang) override;
+  const Wording& Words() const { return wording_; }
   const std::string& Caption() const { return caption_; }
   void SetCaption(std::string caption);
 
  private:
+  Wording wording_;
   std::string caption_;
 };
 
@@ -101,11 +113,12 @@ class ScrollBar : public Control {
 
 class TabGroup : public Control {
  public:
-  using Control::Control;
+  TabGroup(Window& window, std::string name, std::vector<Wording> wordings);
+  void Translate(std::span<const std::string> lang) override;
+  const std::vector<Wording>& Words() const { return wordings_; }
 
   // Captions as they are read on screen: a doubled "&" is one, a single one is a mark and goes.
   const std::vector<std::string>& Tabs() const { return tabs_; }
-  void SetTabs(const std::vector<std::string>& captions);
   void SetTab(int tab, const std::string& caption);
 
   // The tab in front.
@@ -120,6 +133,7 @@ class TabGroup : public Control {
   std::function<void(int)> clicked;
 
  private:
+  std::vector<Wording> wordings_;
   std::vector<std::string> tabs_;
   int tab_ = 0;
 };
@@ -165,8 +179,11 @@ class ReportList : public Control {
  public:
   static constexpr std::size_t kColumns = 3;
   using Row = std::array<std::string, kColumns>;
+  using Headers = std::array<Wording, kColumns>;
 
-  using Control::Control;
+  ReportList(Window& window, std::string name, const Headers& headers = {});
+  void Translate(std::span<const std::string> lang) override;
+  const Headers& Words() const { return headers_; }
   const Row& Columns() const { return columns_; }
   void SetColumn(std::size_t column, std::string header);
   const std::vector<Row>& Rows() const { return rows_; }
@@ -174,6 +191,7 @@ class ReportList : public Control {
   void Clear();
 
  private:
+  Headers headers_;
   Row columns_;
   std::vector<Row> rows_;
 };

@@ -3,23 +3,16 @@
 #pragma once
 
 #include "core/Records.h"
-#include "screen/Captions.h"
 #include "screen/MainWindow.h"
 
 #include <array>
 #include <span>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <variant>
-#include <vector>
 
 namespace wheelwright {
-
-struct FieldCaption {
-  Label FrmMain::*control = nullptr;
-  const char* design = "";  // UTF-8
-  int lang = kNoLang;
-};
 
 // What a pick list offers: words that are translated and told by their place, or the file's own
 // words.
@@ -29,7 +22,7 @@ struct FieldEntries {
   std::string_view codes = {};  // entry i stands for character i; empty for the file's own words
 };
 
-using FieldInput = std::variant<TextBox FrmMain::*, PickList FrmMain::*, CheckBox FrmMain::*>;
+using FieldInput = std::variant<TextField FrmMain::*, PickField FrmMain::*, TickField FrmMain::*>;
 
 template <class Record>
 struct FieldRow {
@@ -38,8 +31,6 @@ struct FieldRow {
   int tab = 0;
   int tabRow = 0;  // counted from 0
   bool isNamedInProblems = true;
-  FieldCaption label;
-  FieldCaption hint = {};  // not every field has one
   FieldEntries entries = {};
 };
 
@@ -52,13 +43,15 @@ extern const std::array<FieldRow<IdeEntry>, 13> kDefinitionFields;
 // The control of one kind that is the field's input; null if its input is of another kind.
 template <class Input, class Main, class Record>
 auto InputOf(Main& main, const FieldRow<Record>& field) {
-  const auto* const input = std::get_if<Input FrmMain::*>(&field.input);
+  const auto* const input = std::get_if<Labelled<Input> FrmMain::*>(&field.input);
   return input == nullptr ? nullptr : &(main.*(*input));
 }
 
-// The rows of a tab from top to bottom.
-template <class Fields>
-std::vector<const typename Fields::value_type*> RowsOfTab(const Fields& fields, int tab);
+template <class Main, class Record>
+auto& LabelsOf(Main& main, const FieldRow<Record>& field) {
+  using Labels = std::conditional_t<std::is_const_v<Main>, const FieldLabels, FieldLabels>;
+  return std::visit([&](auto input) -> Labels& { return main.*input; }, field.input);
+}
 
 // The captions of chkFlag1 to chkFlag28: the game's own words, in no language.
 extern const std::array<const char*, kFlagCount> kFlagCaptions;

@@ -7,6 +7,8 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
+#include <string>
 
 namespace wheelwright {
 
@@ -30,130 +32,115 @@ inline constexpr int kPictureFrameHeight = 300;
 
 inline constexpr std::size_t kFlagCount = 28;
 
+// What stands around the input of a field: a label in front of it, and a hint behind most.
+struct FieldLabels {
+  Label label;
+  std::optional<Label> hint;
+};
+
+// An input with its labels, which are named as it is: txtID has lblID and lblIDInfo. A hint is in a
+// language.
+template <class Input>
+struct Labelled : FieldLabels, Input {
+  Labelled(Window& window, const std::string& name, Wording wording, Wording hintWording = {},
+           const std::string& labelName = "")
+      : FieldLabels{Label(window, labelName.empty() ? "lbl" + name.substr(3) : labelName, wording),
+                    std::nullopt},
+        Input(window, name) {
+    if (hintWording.lang != kNoLang)
+      hint.emplace(window, "lbl" + name.substr(3) + "Info", hintWording);
+  }
+};
+
+using TextField = Labelled<TextBox>;
+using PickField = Labelled<PickList>;
+using TickField = Labelled<CheckBox>;
+
 struct FrmMain : Window {
   FrmMain();
 
   // Left column
-  Frame FrameSprache{*this, "FrameSprache"};
+  Frame FrameSprache{*this, "FrameSprache", {"Sprache", 0}};
   PickList cmbSprache{*this, "cmbSprache"};
-  Frame FrameAutos{*this, "FrameAutos"};
+  Frame FrameAutos{*this, "FrameAutos", {"Autos", 1}};
   PickList cmbAutos{*this, "cmbAutos", Order::Sorted};
-  Button cmdOpen{*this, "cmdOpen"};
-  Button cmdSave{*this, "cmdSave"};
-  Button cmdSaveAs{*this, "cmdSaveAs"};
-  Button cmdUndo{*this, "cmdUndo"};
-  Button cmdBackup{*this, "cmdBackup"};
+  Button cmdOpen{*this, "cmdOpen", {"Lade Datei", 8}};
+  Button cmdSave{*this, "cmdSave", {"Speichern", 9}};
+  Button cmdSaveAs{*this, "cmdSaveAs", {"Speichern unter...", 119}};
+  Button cmdUndo{*this, "cmdUndo", {"Datei - Rückgängig", 97}};
+  Button cmdBackup{*this, "cmdBackup", {"Erstelle Backup", 10}};
 
   // Main region: one tab group for each kind of file, all on one spot
-  TabGroup SSTab1{*this, "SSTab1"};
-  TabGroup SSTab2{*this, "SSTab2"};
-  TabGroup SSTab3{*this, "SSTab3"};
+  TabGroup SSTab1{*this,
+                  "SSTab1",
+                  {{"Allgemein", 2},
+                   {"Dimensionen", 3},
+                   {"Leistung&&Antrieb", 4},
+                   {"Bremsen", 5},
+                   {"Aufhängung", 6},
+                   {"Flags", 7},
+                   {"Bild", 64},
+                   {"Sonstiges", 62}}};
+  TabGroup SSTab2{
+      *this, "SSTab2", {{"ID&&Referenzen", 123}, {"Fahrzeug-Eigenschaften", 124}, {"Bild", 64}}};
+  TabGroup SSTab3{*this, "SSTab3", {{"Farbentabelle", 155}, {"Autotabelle", 156}}};
 
   // Bottom row
-  Button cmdHelp{*this, "cmdHelp"};
-  Button cmdInfo{*this, "cmdInfo"};
-  Button cmdEnde{*this, "cmdEnde"};
+  Button cmdHelp{*this, "cmdHelp", {"Hilfe", 120}};
+  Button cmdInfo{*this, "cmdInfo", {"Info"}};
+  Button cmdEnde{*this, "cmdEnde", {"Beenden", 11}};
 
   // SSTab1: General
-  Label lblAutoname{*this, "lblAutoname"};
-  TextBox txtAutoname{*this, "txtAutoname"};
-  Label lblAutonameInfo{*this, "lblAutonameInfo"};
-  Label lblGewicht{*this, "lblGewicht"};
-  TextBox txtGewicht{*this, "txtGewicht"};
-  Label lblGewichtInfo{*this, "lblGewichtInfo"};
-  Label lblPedSeat{*this, "lblPedSeat"};
-  TextBox txtPedSeat{*this, "txtPedSeat"};
-  Label lblPedSeatInfo{*this, "lblPedSeatInfo"};
-  Label lblKoll{*this, "lblKoll"};
-  TextBox txtKoll{*this, "txtKoll"};
-  Label lblKollInfo{*this, "lblKollInfo"};
-  Label lblPreis{*this, "lblPreis"};
-  TextBox txtPreis{*this, "txtPreis"};
-  Label lblPreisInfo{*this, "lblPreisInfo"};
-  Label lblFrontLichter{*this, "lblFrontLichter"};
-  PickList cmbFrontLichter{*this, "cmbFrontLichter"};
-  Label lblRearLichter{*this, "lblRearLichter"};
-  PickList cmbRearLichter{*this, "cmbRearLichter"};
+  TextField txtAutoname{*this, "txtAutoname", {"Autoname", 15}, {"(Maximal 14 Buchstaben)", 16}};
+  TextField txtGewicht{*this, "txtGewicht", {"Gewicht (kg)", 17}, {"(1.0 bis 50000.0)", 18}};
+  TextField txtPedSeat{*this, "txtPedSeat", {"Ped Seat Offset", 75}, {"(>= 0.0)", 76}};
+  TextField txtKoll{*this, "txtKoll", {"Koll.-Schaden-Multipl.", 77}, {"(0.2 bis 5.0)", 78}};
+  TextField txtPreis{*this, "txtPreis", {"Geldwert/Preis", 79}, {"(1 bis 100000)", 80}};
+  PickField cmbFrontLichter{*this, "cmbFrontLichter", {"Vorderlichter", 81}};
+  PickField cmbRearLichter{*this, "cmbRearLichter", {"Hinterlichter", 86}};
 
   // SSTab1: Dimensions
-  Label lblBreite{*this, "lblBreite"};
-  TextBox txtBreite{*this, "txtBreite"};
-  Label lblBreiteInfo{*this, "lblBreiteInfo"};
-  Label lblHoehe{*this, "lblHoehe"};
-  TextBox txtHoehe{*this, "txtHoehe"};
-  Label lblHoeheInfo{*this, "lblHoeheInfo"};
-  Label lblLaenge{*this, "lblLaenge"};
-  TextBox txtLaenge{*this, "txtLaenge"};
-  Label lblLaengeInfo{*this, "lblLaengeInfo"};
-  Label lblMassenmittelpX{*this, "lblMassenmittelpX"};
-  TextBox txtMassenmittelpX{*this, "txtMassenmittelpX"};
-  Label lblMassenmittelpXInfo{*this, "lblMassenmittelpXInfo"};
-  Label lblMassenmittelpY{*this, "lblMassenmittelpY"};
-  TextBox txtMassenmittelpY{*this, "txtMassenmittelpY"};
-  Label lblMassenmittelpYInfo{*this, "lblMassenmittelpYInfo"};
-  Label lblMassenmittelpZ{*this, "lblMassenmittelpZ"};
-  TextBox txtMassenmittelpZ{*this, "txtMassenmittelpZ"};
-  Label lblMassenmittelpZInfo{*this, "lblMassenmittelpZInfo"};
-  Label lblSubMerged{*this, "lblSubMerged"};
-  TextBox txtSubMerged{*this, "txtSubMerged"};
-  Label lblSubMergedInfo{*this, "lblSubMergedInfo"};
+  TextField txtBreite{*this, "txtBreite", {"Breite (m)", 19}, {"(0.0 > x > 20.0)", 20}};
+  TextField txtHoehe{*this, "txtHoehe", {"Höhe (m)", 21}, {"(0.0 > x > 20.0)", 22}};
+  TextField txtLaenge{*this, "txtLaenge", {"Länge (m)", 23}, {"(0.0 > x > 20.0)", 24}};
+  TextField txtMassenmittelpX{
+      *this, "txtMassenmittelpX", {"Massenmittelp. X", 25}, {"(-10.0 > x > 10.0)", 26}};
+  TextField txtMassenmittelpY{
+      *this, "txtMassenmittelpY", {"Massenmittelp. Y", 27}, {"(-10.0 > x > 10.0)", 28}};
+  TextField txtMassenmittelpZ{
+      *this, "txtMassenmittelpZ", {"Massenmittelp. Z", 29}, {"(-10.0 > x > 10.0)", 30}};
+  TextField txtSubMerged{
+      *this, "txtSubMerged", {"Versinkt (%)", 31}, {"im Wasser (10 to 120)", 32}};
 
   // SSTab1: Power and drive
-  Label lblTractionMulti{*this, "lblTractionMulti"};
-  TextBox txtTractionMulti{*this, "txtTractionMulti"};
-  Label lblTractionMultiInfo{*this, "lblTractionMultiInfo"};
-  Label lblTractionLoss{*this, "lblTractionLoss"};
-  TextBox txtTractionLoss{*this, "txtTractionLoss"};
-  Label lblTractionLossInfo{*this, "lblTractionLossInfo"};
-  Label lblTractionBias{*this, "lblTractionBias"};
-  TextBox txtTractionBias{*this, "txtTractionBias"};
-  Label lblTractionBiasInfo{*this, "lblTractionBiasInfo"};
-  Label lblGaenge{*this, "lblGaenge"};
-  TextBox txtGaenge{*this, "txtGaenge"};
-  Label lblGaengeInfo{*this, "lblGaengeInfo"};
-  Label lblGeschwindigkeit{*this, "lblGeschwindigkeit"};
-  TextBox txtGeschwindigkeit{*this, "txtGeschwindigkeit"};
-  Label lblGeschwindigkeitInfo{*this, "lblGeschwindigkeitInfo"};
-  Label lblBeschleunigung{*this, "lblBeschleunigung"};
-  TextBox txtBeschleunigung{*this, "txtBeschleunigung"};
-  Label lblBeschleunigungInfo{*this, "lblBeschleunigungInfo"};
-  Label lblAntrieb{*this, "lblAntrieb"};
-  PickList cmbAntrieb{*this, "cmbAntrieb"};
-  Label lblMotorTyp{*this, "lblMotorTyp"};
-  PickList cmbMotor{*this, "cmbMotor"};
+  TextField txtTractionMulti{
+      *this, "txtTractionMulti", {"Zugkraft - Multipl.", 33}, {"(0.5 bis 2.0)", 34}};
+  TextField txtTractionLoss{
+      *this, "txtTractionLoss", {"Zugkraft - Verlust", 35}, {"(0.0 > x > 1.0)", 36}};
+  TextField txtTractionBias{
+      *this, "txtTractionBias", {"Zugkraft - Vorsp.", 37}, {"(0.0 > x > 1.0)", 38}};
+  TextField txtGaenge{*this, "txtGaenge", {"Anzahl Gänge", 39}, {"(1 bis 5)", 40}};
+  TextField txtGeschwindigkeit{
+      *this, "txtGeschwindigkeit", {"Geschw. (km/h)", 41}, {"(5.0 bis 150.0)", 42}};
+  TextField txtBeschleunigung{
+      *this, "txtBeschleunigung", {"Beschl. (m/s^2)", 43}, {"(0.1 bis 10.0)", 44}};
+  PickField cmbAntrieb{*this, "cmbAntrieb", {"Antrieb", 45}};
+  PickField cmbMotor{*this, "cmbMotor", {"Motor-Typ", 49}, {}, "lblMotorTyp"};
 
   // SSTab1: Brakes
-  Label lblBremsstaerke{*this, "lblBremsstaerke"};
-  TextBox txtBremsstaerke{*this, "txtBremsstaerke"};
-  Label lblBremsstaerkeInfo{*this, "lblBremsstaerkeInfo"};
-  Label lblBrakeBias{*this, "lblBrakeBias"};
-  TextBox txtBrakeBias{*this, "txtBrakeBias"};
-  Label lblBrakeBiasInfo{*this, "lblBrakeBiasInfo"};
-  Label lblABS{*this, "lblABS"};
-  CheckBox chkABS{*this, "chkABS"};
+  TextField txtBremsstaerke{*this, "txtBremsstaerke", {"Bremsstärke", 53}, {"(0.1 bis 10.0)", 54}};
+  TextField txtBrakeBias{*this, "txtBrakeBias", {"Brake Bias", 55}, {"(0.0 bis 1.0)", 56}};
+  TickField chkABS{*this, "chkABS", {"ABS", 57}};
 
   // SSTab1: Suspension
-  Label lblRadeinschlag{*this, "lblRadeinschlag"};
-  TextBox txtRadeinschlag{*this, "txtRadeinschlag"};
-  Label lblRadeinschlagInfo{*this, "lblRadeinschlagInfo"};
-  Label lblKraftlevel{*this, "lblKraftlevel"};
-  TextBox txtKraftlevel{*this, "txtKraftlevel"};
-  Label lblKraftlevelInfo{*this, "lblKraftlevelInfo"};
-  Label lblDLevel{*this, "lblDLevel"};
-  TextBox txtDLevel{*this, "txtDLevel"};
-  Label lblDLevelInfo{*this, "lblDLevelInfo"};
-  Label lblOLimit{*this, "lblOLimit"};
-  TextBox txtOLimit{*this, "txtOLimit"};
-  Label lblOLimitInfo{*this, "lblOLimitInfo"};
-  Label lblULimit{*this, "lblULimit"};
-  TextBox txtULimit{*this, "txtULimit"};
-  Label lblULimitInfo{*this, "lblULimitInfo"};
-  Label lblBias{*this, "lblBias"};
-  TextBox txtBias{*this, "txtBias"};
-  Label lblBiasInfo{*this, "lblBiasInfo"};
-  Label lblDive{*this, "lblDive"};
-  TextBox txtDive{*this, "txtDive"};
-  Label lblDiveInfo{*this, "lblDiveInfo"};
+  TextField txtRadeinschlag{
+      *this, "txtRadeinschlag", {"Radeinschlag", 58}, {"(10.0 bis 40.0)", 59}};
+  TextField txtKraftlevel{*this, "txtKraftlevel", {"Kraftlevel", 65}, {"(>= 0.0)", 66}};
+  TextField txtDLevel{*this, "txtDLevel", {"Dämpfungslevel", 67}, {"(>= 0.0)", 68}};
+  TextField txtOLimit{*this, "txtOLimit", {"Oberes Limit", 69}, {"(-1.0 bis 1.0)", 70}};
+  TextField txtULimit{*this, "txtULimit", {"Unteres Limit", 71}, {"(-1.0 bis 1.0)", 72}};
+  TextField txtBias{*this, "txtBias", {"Bias between F/R", 73}, {"(-1.0 bis 1.0)", 74}};
+  TextField txtDive{*this, "txtDive", {"Anti-Tauch Multipl", 178}, {"(-1.0 bis 1.0)", 179}};
 
   // SSTab1: Flags, chkFlag1 to chkFlag28
   std::array<CheckBox, kFlagCount> chkFlag;
@@ -163,58 +150,38 @@ struct FrmMain : Window {
   Picture picCar{*this, "picCar"};
 
   // SSTab1: Misc
-  Button cmdNewCar{*this, "cmdNewCar"};
-  Button cmdDeleteCar{*this, "cmdDeleteCar"};
-  Button cmdImportCar{*this, "cmdImportCar"};
-  Button cmdExportCar{*this, "cmdExportCar"};
-  Frame frameAuthor{*this, "frameAuthor"};
+  Button cmdNewCar{*this, "cmdNewCar", {"Neues Auto hinzufügen", 93}};
+  Button cmdDeleteCar{*this, "cmdDeleteCar", {"Aktuelles Auto löschen", 94}};
+  Button cmdImportCar{*this, "cmdImportCar", {"Import Autos", 95}};
+  Button cmdExportCar{*this, "cmdExportCar", {"Export Autos...", 96}};
+  Frame frameAuthor{*this, "frameAuthor", {"Autor", 100}};
   TextBox txtAuthor{*this, "txtAuthor"};
-  Frame frameDate{*this, "frameDate"};
+  Frame frameDate{*this, "frameDate", {"Datum", 101}};
   TextBox txtDate{*this, "txtDate"};
 
   // SSTab2: IDs and references
-  Label lblID{*this, "lblID"};
-  TextBox txtID{*this, "txtID"};
-  Label lblIDInfo{*this, "lblIDInfo"};
-  Label lblModelName{*this, "lblModelName"};
-  TextBox txtModelName{*this, "txtModelName"};
-  Label lblModelNameInfo{*this, "lblModelNameInfo"};
-  Label lblTXDName{*this, "lblTXDName"};
-  TextBox txtTXDName{*this, "txtTXDName"};
-  Label lblTXDNameInfo{*this, "lblTXDNameInfo"};
-  Label lblHandlingID{*this, "lblHandlingID"};
-  TextBox txtHandlingID{*this, "txtHandlingID"};
-  Label lblHandlingIDInfo{*this, "lblHandlingIDInfo"};
-  Label lblGameName{*this, "lblGameName"};
-  TextBox txtGameName{*this, "txtGameName"};
-  Label lblGameNameInfo{*this, "lblGameNameInfo"};
+  TextField txtID{*this, "txtID", {"ID", 125}, {"ID in der default.ide", 126}};
+  TextField txtModelName{
+      *this, "txtModelName", {"Model-Name", 129}, {"Referenz zum 3D-Modell", 130}};
+  TextField txtTXDName{*this, "txtTXDName", {"TXD-Name", 131}, {"Referenz zur Textur", 132}};
+  TextField txtHandlingID{
+      *this, "txtHandlingID", {"Handling-ID", 127}, {"Referenz zu handling.cfg", 128}};
+  TextField txtGameName{
+      *this, "txtGameName", {"Game-Name", 133}, {"Referenz zum Namen im Spiel", 134}};
 
   // SSTab2: Vehicle properties
-  Label lblTyp{*this, "lblTyp"};
-  PickList cmbTyp{*this, "cmbTyp"};
-  Label lblTypInfo{*this, "lblTypInfo"};
-  Label lblAnim{*this, "lblAnim"};
-  PickList cmbAnim{*this, "cmbAnim"};
-  Label lblAnimInfo{*this, "lblAnimInfo"};
-  Label lblKlasse{*this, "lblKlasse"};
-  PickList cmbKlasse{*this, "cmbKlasse"};
-  Label lblKlasseInfo{*this, "lblKlasseInfo"};
-  Label lblFrequenz{*this, "lblFrequenz"};
-  TextBox txtFrequenz{*this, "txtFrequenz"};
-  Label lblFrequenzInfo{*this, "lblFrequenzInfo"};
-  Label lblLevel{*this, "lblLevel"};
-  TextBox txtLevel{*this, "txtLevel"};
-  Label lblLevelInfo{*this, "lblLevelInfo"};
-  Label lblCompRules{*this, "lblCompRules"};
-  TextBox txtCompRules{*this, "txtCompRules"};
-  Label lblCompRulesInfo{*this, "lblCompRulesInfo"};
-  Label lblExtra1{*this, "lblExtra1"};
-  TextBox txtExtra1{*this, "txtExtra1"};
+  PickField cmbTyp{*this, "cmbTyp", {"Typ", 135}, {"Fahrzeugtyp", 136}};
+  PickField cmbAnim{*this, "cmbAnim", {"Anim", 180}, {"Animation", 181}};
+  PickField cmbKlasse{*this, "cmbKlasse", {"Klasse", 137}, {"Wer fährt dieses Fahrzeug", 138}};
+  TextField txtFrequenz{
+      *this, "txtFrequenz", {"Frequenz", 139}, {"Häufigkeit des Auftretens", 140}};
+  TextField txtLevel{*this, "txtLevel", {"Level", 141}, {"Unbekannt", 142}};
+  TextField txtCompRules{*this, "txtCompRules", {"Comprules", 143}, {"Unbekannt", 144}};
+  TextField txtExtra1{*this, "txtExtra1", {"Extra 1", 145}};
   PickList cmbExtra1{*this, "cmbExtra1"};
-  Label lblExtra1Info{*this, "lblExtra1Info"};
-  Label lblExtra2{*this, "lblExtra2"};
-  TextBox txtExtra2{*this, "txtExtra2"};
-  Label lblExtra2Info{*this, "lblExtra2Info"};
+  Label& lblExtra1Info =
+      txtExtra1.hint.emplace(*this, "lblExtra1Info", Wording{"Extra 1 Info", 146});
+  TextField txtExtra2{*this, "txtExtra2", {"Extra 2", 148}, {"Extra 2 Info", 149}};
 
   // SSTab2: Picture
   Frame picFrame2{*this, "picFrame2"};
@@ -222,33 +189,33 @@ struct FrmMain : Window {
 
   // SSTab3: Palette
   ListBox lstColors{*this, "lstColors"};
-  Button cmdNewColor{*this, "cmdNewColor"};
-  Button cmdDeleteColor{*this, "cmdDeleteColor"};
-  Label lblColorName{*this, "lblColorName"};
+  Button cmdNewColor{*this, "cmdNewColor", {"Farbe hinzufügen", 157}};
+  Button cmdDeleteColor{*this, "cmdDeleteColor", {"Farbe löschen", 158}};
+  Label lblColorName{*this, "lblColorName", {"Name", 159}};
   TextBox txtColorName{*this, "txtColorName"};
-  Label lblRot{*this, "lblRot"};
+  Label lblRot{*this, "lblRot", {"Rot", 160}};
   ScrollBar HScroll1{*this, "HScroll1"};
-  Label lblRotWert{*this, "lblRotWert"};
-  Label lblGrün{*this, "lblGrün"};
+  Label lblRotWert{*this, "lblRotWert", {"0"}};
+  Label lblGrün{*this, "lblGrün", {"Grün", 161}};
   ScrollBar HScroll2{*this, "HScroll2"};
-  Label lblGrünWert{*this, "lblGrünWert"};
-  Label lblBlau{*this, "lblBlau"};
+  Label lblGrünWert{*this, "lblGrünWert", {"0"}};
+  Label lblBlau{*this, "lblBlau", {"Blau", 162}};
   ScrollBar HScroll3{*this, "HScroll3"};
-  Label lblBlauWert{*this, "lblBlauWert"};
+  Label lblBlauWert{*this, "lblBlauWert", {"0"}};
   Swatch picFarbe{*this, "picFarbe"};
 
   // SSTab3: Colour pairs of the vehicles
-  Frame frameColors{*this, "frameColors"};
+  Frame frameColors{*this, "frameColors", {"Autofarben", 167}};
   ListBox lstCarColors{*this, "lstCarColors"};
-  Button cmdRemColor{*this, "cmdRemColor"};
-  Frame frameAddColors{*this, "frameAddColors"};
-  Label lblColor1{*this, "lblColor1"};
+  Button cmdRemColor{*this, "cmdRemColor", {"Entfernen", 168}};
+  Frame frameAddColors{*this, "frameAddColors", {"Farbe hinzufügen", 163}};
+  Label lblColor1{*this, "lblColor1", {"Farbe 1", 164}};
   PickList cmbColor1{*this, "cmbColor1"};
   Swatch picColor1{*this, "picColor1"};
-  Label lblColor2{*this, "lblColor2"};
+  Label lblColor2{*this, "lblColor2", {"Farbe 2", 165}};
   PickList cmbColor2{*this, "cmbColor2"};
   Swatch picColor2{*this, "picColor2"};
-  Button cmdAddColor{*this, "cmdAddColor"};
+  Button cmdAddColor{*this, "cmdAddColor", {"Hinzufügen", 166}};
 
   // The hidden common dialog of open, save as and import.
   FileDialog CmD1;

@@ -1,6 +1,5 @@
 // The windows as they are built: design captions, fixed entries, frames and pages, first states.
 #include "core/CodePage.h"
-#include "screen/Captions.h"
 #include "screen/Fields.h"
 #include "screen/MainWindow.h"
 #include "screen/OtherWindows.h"
@@ -13,11 +12,7 @@ namespace {
 
 template <std::size_t... I>
 std::array<CheckBox, kFlagCount> FlagBoxes(Window& window, std::index_sequence<I...> /*numbers*/) {
-  return {CheckBox(window, "chkFlag" + std::to_string(I + 1))...};
-}
-
-void SetDesignCaptions(const std::vector<CaptionRow>& rows) {
-  for (const CaptionRow& row : rows) row.control.SetCaption(FromUnicode(row.design));
+  return {CheckBox(window, "chkFlag" + std::to_string(I + 1), {kFlagCaptions[I]})...};
 }
 
 void AddEntries(PickList& list, std::span<const char* const> words) {
@@ -27,11 +22,9 @@ void AddEntries(PickList& list, std::span<const char* const> words) {
 template <class Fields>
 void BuildFields(FrmMain& m, const Fields& fields, TabGroup& group) {
   for (const auto& field : fields) {
-    for (const FieldCaption& caption : {field.label, field.hint}) {
-      if (caption.control == nullptr) continue;
-      (m.*caption.control).SetCaption(FromUnicode(caption.design));
-      (m.*caption.control).PutInto(group, field.tab);
-    }
+    auto& [label, hint] = LabelsOf(m, field);
+    label.PutInto(group, field.tab);
+    if (hint) hint->PutInto(group, field.tab);
     std::visit([&](auto input) { (m.*input).PutInto(group, field.tab); }, field.input);
     if (auto* const list = InputOf<PickList>(m, field)) AddEntries(*list, field.entries.words);
   }
@@ -39,10 +32,7 @@ void BuildFields(FrmMain& m, const Fields& fields, TabGroup& group) {
 
 void BuildHandlingTabs(FrmMain& m) {
   BuildFields(m, kHandlingFields, m.SSTab1);
-  for (std::size_t i = 0; i < kFlagCount; ++i) {
-    m.chkFlag[i].SetCaption(kFlagCaptions[i]);
-    m.chkFlag[i].PutInto(m.SSTab1, kFlagsTab);
-  }
+  for (CheckBox& flag : m.chkFlag) flag.PutInto(m.SSTab1, kFlagsTab);
   m.picFrame.PutInto(m.SSTab1, kPictureTab);
   m.picCar.PutInto(m.picFrame);
   for (Control* control :
@@ -85,44 +75,27 @@ void BuildColorTabs(FrmMain& m) {
   }
 }
 
-void DisableUntilFirstLoad(FrmMain& m) {
-  for (Control* control :
-       std::initializer_list<Control*>{&m.FrameAutos, &m.cmdSave, &m.cmdSaveAs, &m.cmdUndo,
-                                       &m.cmdBackup, &m.SSTab1, &m.SSTab2, &m.SSTab3}) {
-    control->SetEnabled(false);
-  }
-  m.SSTab2.SetVisible(false);
-  m.SSTab3.SetVisible(false);
-}
-
 }  // namespace
 
 FrmMain::FrmMain()
     : Window("frmMain", "GTAViceCity PC-Version - Wheelwright"),
       chkFlag(FlagBoxes(*this, std::make_index_sequence<kFlagCount>{})) {
-  SetDesignCaptions(CaptionsOf(*this));
-  SSTab1.SetTabs(std::vector<std::string>(kMiscTab + 1));
-  SSTab2.SetTabs(std::vector<std::string>(kDefinitionPictureTab + 1));
-  SSTab3.SetTabs(std::vector<std::string>(kPairsTab + 1));
-  for (const TabCaptionRow& row : TabCaptionsOf(*this))
-    row.group.SetTab(row.tab, FromUnicode(row.design));
   cmbSprache.PutInto(FrameSprache);
   cmbAutos.PutInto(FrameAutos);
   cmbAutos.RunClickOnlyWhenRowChanges();
   BuildHandlingTabs(*this);
   BuildDefinitionTabs(*this);
   BuildColorTabs(*this);
-  DisableUntilFirstLoad(*this);
+  for (Control* control : std::initializer_list<Control*>{
+           &FrameAutos, &cmdSave, &cmdSaveAs, &cmdUndo, &cmdBackup, &SSTab1, &SSTab2, &SSTab3}) {
+    control->SetEnabled(false);
+  }
+  SSTab2.SetVisible(false);
+  SSTab3.SetVisible(false);
 }
 
-FrmError::FrmError() : Window("frmError", "Errors") {
-  SetDesignCaptions(CaptionsOf(*this));
-  for (const ColumnCaptionRow& row : ColumnCaptions()) lstErrors.SetColumn(row.column, row.design);
-}
+FrmError::FrmError() : Window("frmError", "Errors") {}
 
-FrmExport::FrmExport() : Window("frmExport", "Export") {
-  SetDesignCaptions(CaptionsOf(*this));
-  Spez.SetVisible(false);
-}
+FrmExport::FrmExport() : Window("frmExport", "Export") { Spez.SetVisible(false); }
 
 }  // namespace wheelwright

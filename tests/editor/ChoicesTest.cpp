@@ -8,7 +8,7 @@ namespace wheelwright::testing {
 namespace {
 
 struct CodeRow {
-  PickList FrmMain::*list;
+  PickField FrmMain::*list;
   std::string Car::*field;
   std::vector<std::string> codes;
 };
@@ -21,7 +21,7 @@ const std::vector<CodeRow> kCodeRows = {
 };
 
 struct WordRow {
-  PickList FrmMain::*list;
+  PickField FrmMain::*list;
   std::string IdeEntry::*field;
   std::vector<std::string> words;
 };

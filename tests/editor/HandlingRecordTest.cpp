@@ -11,7 +11,7 @@ namespace wheelwright::testing {
 namespace {
 
 struct ShownText {
-  TextBox FrmMain::*box;
+  TextField FrmMain::*box;
   const char* text;
 };
 
@@ -149,7 +149,7 @@ TEST(HandlingRecord, LeavesEveryFieldOfEveryVehicleAsItWas) {
 
 struct ShownCode {
   std::string Car::*field;
-  PickList FrmMain::*list;
+  PickField FrmMain::*list;
   const char* code;
   int row;
 };

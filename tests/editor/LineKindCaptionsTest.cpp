@@ -9,36 +9,31 @@ namespace wheelwright::testing {
 namespace {
 
 struct Exchanged {
-  Label FrmMain::*label;
+  TextField FrmMain::*field;
   int forBoats;
   int forOthers;
-  Label FrmMain::*info;
   int infoForOthers;
 };
 
 const std::vector<Exchanged> kExchanged = {
-    {&FrmMain::lblTractionMulti, 169, 33, &FrmMain::lblTractionMultiInfo, 34},
-    {&FrmMain::lblTractionLoss, 170, 35, &FrmMain::lblTractionLossInfo, 36},
-    {&FrmMain::lblTractionBias, 171, 37, &FrmMain::lblTractionBiasInfo, 38},
-    {&FrmMain::lblBrakeBias, 172, 55, &FrmMain::lblBrakeBiasInfo, 56},
-    {&FrmMain::lblBremsstaerke, 173, 53, &FrmMain::lblBremsstaerkeInfo, 54},
-    {&FrmMain::lblKraftlevel, 174, 65, &FrmMain::lblKraftlevelInfo, 66},
-    {&FrmMain::lblDLevel, 175, 67, &FrmMain::lblDLevelInfo, 68},
-    {&FrmMain::lblULimit, 176, 71, &FrmMain::lblULimitInfo, 72},
-    {&FrmMain::lblBias, 177, 73, &FrmMain::lblBiasInfo, 74},
+    {&FrmMain::txtTractionMulti, 169, 33, 34}, {&FrmMain::txtTractionLoss, 170, 35, 36},
+    {&FrmMain::txtTractionBias, 171, 37, 38},  {&FrmMain::txtBrakeBias, 172, 55, 56},
+    {&FrmMain::txtBremsstaerke, 173, 53, 54},  {&FrmMain::txtKraftlevel, 174, 65, 66},
+    {&FrmMain::txtDLevel, 175, 67, 68},        {&FrmMain::txtULimit, 176, 71, 72},
+    {&FrmMain::txtBias, 177, 73, 74},
 };
 
 void ExpectBoatCaptions(TestSession& s) {
   for (const Exchanged& row : kExchanged) {
-    EXPECT_EQ((s.main.*row.label).Caption(), LangText(row.forBoats));
-    EXPECT_EQ((s.main.*row.info).Caption(), "");
+    EXPECT_EQ((s.main.*row.field).label.Caption(), LangText(row.forBoats));
+    EXPECT_EQ((s.main.*row.field).hint->Caption(), "");
   }
 }
 
 void ExpectOrdinaryCaptions(TestSession& s) {
   for (const Exchanged& row : kExchanged) {
-    EXPECT_EQ((s.main.*row.label).Caption(), LangText(row.forOthers));
-    EXPECT_EQ((s.main.*row.info).Caption(), LangText(row.infoForOthers));
+    EXPECT_EQ((s.main.*row.field).label.Caption(), LangText(row.forOthers));
+    EXPECT_EQ((s.main.*row.field).hint->Caption(), LangText(row.infoForOthers));
   }
 }
 
@@ -77,8 +72,8 @@ TEST(LineKindCaptions, AllOtherCaptionsStay) {
   auto expected = CaptionsOn(s.main);
   s.main.cmbAutos.Choose(1);
   for (const Exchanged& row : kExchanged) {
-    expected[(s.main.*row.label).Name()] = LangText(row.forBoats);
-    expected[(s.main.*row.info).Name()] = "";
+    expected[(s.main.*row.field).label.Name()] = LangText(row.forBoats);
+    expected[(s.main.*row.field).hint->Name()] = "";
   }
   EXPECT_EQ(CaptionsOn(s.main), expected);
 }
@@ -89,8 +84,10 @@ TEST(LineKindCaptions, NothingIsHiddenOrDisabledForABoat) {
   s.main.SSTab1.SetEnabled(true);
   s.main.cmbAutos.Choose(0);
   for (const Exchanged& row : kExchanged) {
-    EXPECT_TRUE((s.main.*row.label).IsVisibleHere() && (s.main.*row.label).IsEnabledHere());
-    EXPECT_TRUE((s.main.*row.info).IsVisibleHere() && (s.main.*row.info).IsEnabledHere());
+    EXPECT_TRUE((s.main.*row.field).label.IsVisibleHere() &&
+                (s.main.*row.field).label.IsEnabledHere());
+    EXPECT_TRUE((s.main.*row.field).hint->IsVisibleHere() &&
+                (s.main.*row.field).hint->IsEnabledHere());
   }
   EXPECT_TRUE(s.main.txtBias.IsVisibleHere() && s.main.txtBias.IsEnabledHere());
 }

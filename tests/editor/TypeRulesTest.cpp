@@ -1,4 +1,4 @@
-#include "editor/TypeRules.h"
+#include "editor/DefinitionRecord.h"
 #include "support/HeldTables.h"
 #include "support/TableTexts.h"
 #include "support/TestSession.h"
@@ -49,8 +49,8 @@ class Showing : public TestSession {
 Texts ShownExtras(const FrmMain& main) {
   Texts shown;
   for (const Control* control : std::initializer_list<const Control*>{
-           &main.lblExtra1, &main.txtExtra1, &main.cmbExtra1, &main.lblExtra1Info, &main.lblExtra2,
-           &main.txtExtra2, &main.lblExtra2Info}) {
+           &main.txtExtra1.label, &main.txtExtra1, &main.cmbExtra1, &main.lblExtra1Info,
+           &main.txtExtra2.label, &main.txtExtra2, &*main.txtExtra2.hint}) {
     if (control->IsVisible()) shown.push_back(control->Name());
   }
   return shown;
@@ -62,8 +62,8 @@ const Texts kExtrasOfAPlane = {"lblExtra1", "txtExtra1", "lblExtra1Info"};
 
 // The captions of the four labels, first those of the first Extra.
 Texts Captions(const FrmMain& main) {
-  return {main.lblExtra1.Caption(), main.lblExtra1Info.Caption(), main.lblExtra2.Caption(),
-          main.lblExtra2Info.Caption()};
+  return {main.txtExtra1.label.Caption(), main.lblExtra1Info.Caption(),
+          main.txtExtra2.label.Caption(), main.txtExtra2.hint->Caption()};
 }
 
 TEST(TypeRules, ACarHasAWheelAndASecondValue) {

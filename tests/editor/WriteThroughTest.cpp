@@ -33,7 +33,7 @@ class Edited : public TestSession {
 };
 
 struct HandlingBox {
-  TextBox FrmMain::*box;
+  TextField FrmMain::*box;
   std::string Car::*field;
 };
 
@@ -68,7 +68,7 @@ const std::vector<HandlingBox> kHandlingBoxes = {
 };
 
 struct DefinitionBox {
-  TextBox FrmMain::*box;
+  TextField FrmMain::*box;
   std::string IdeEntry::*field;
 };
 
@@ -154,7 +154,7 @@ TEST(WriteThrough, OnlyTheTwoKeysRenameTheChosenEntry) {
 }
 
 TEST(WriteThrough, ANewNameTakesThePlaceOfTheEntryWithoutSorting) {
-  for (TextBox FrmMain::*box : {&FrmMain::txtAutoname, &FrmMain::txtHandlingID}) {
+  for (TextField FrmMain::*box : {&FrmMain::txtAutoname, &FrmMain::txtHandlingID}) {
     Edited s;
     (s.main.*box).EditByHand(" zed");
     EXPECT_EQ(s.main.cmbAutos.Rows(), (std::vector<std::string>{"AXO", " zed", "CID"}));
@@ -193,7 +193,7 @@ TEST(WriteThrough, ARenameReachesNoOtherTable) {
 }
 
 TEST(WriteThrough, WhileNothingIsChosenANewNameChangesNoEntry) {
-  for (TextBox FrmMain::*box : {&FrmMain::txtAutoname, &FrmMain::txtHandlingID}) {
+  for (TextField FrmMain::*box : {&FrmMain::txtAutoname, &FrmMain::txtHandlingID}) {
     Edited s;
     s.main.cmbAutos.RemoveRow(1);
     (s.main.*box).EditByHand("ZED");

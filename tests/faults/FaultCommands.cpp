@@ -1,6 +1,6 @@
 #include "faults/FaultCommands.h"
 
-#include "forms/Lifecycle.h"
+#include "forms/Wiring.h"
 #include "support/HeldTables.h"
 
 namespace wheelwright::testing {

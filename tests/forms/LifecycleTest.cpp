@@ -1,5 +1,4 @@
 // From the start of the program to the idle window, and its end.
-#include "forms/Lifecycle.h"
 #include "forms/Wiring.h"
 #include "support/HeldTables.h"
 

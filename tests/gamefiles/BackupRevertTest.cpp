@@ -1,5 +1,5 @@
 #include "core/Failure.h"
-#include "gamefiles/BackupRevert.h"
+#include "gamefiles/SaveFile.h"
 #include "support/TableRecords.h"
 #include "support/TestSession.h"
 

@@ -1,4 +1,4 @@
-#include "forms/Lifecycle.h"
+#include "forms/Wiring.h"
 #include "gamefiles/LoadProblems.h"
 #include "support/TestSession.h"
 
@@ -37,7 +37,7 @@ TEST(LoadProblemsTest, TheWindowStartsEmptyAndInvisible) {
 
 TEST(LoadProblemsTest, RowsStayInOrderOfArrivalAndShowTheWindow) {
   TestSession test;
-  test.main.lblGewicht.SetCaption("Mass & more");
+  test.main.txtGewicht.label.SetCaption("Mass & more");
   AddLoadProblems(test.session, {BadToken("TAXI", 1)});
   EXPECT_TRUE(test.error.IsVisible());
   AddLoadProblems(test.session, {WrongCount("BUS", 31), BadToken("4711", 0)});
@@ -59,7 +59,7 @@ TEST(LoadProblemsTest, ABadTokenIsNamedByTheCaptionOfItsLabel) {
     if (rule.check == TokenCheck::None) continue;
     TestSession test;
     AddLoadProblems(test.session, {BadToken("BUS", index)});
-    const std::string caption = rule.label == nullptr ? "" : (test.main.*rule.label).Caption();
+    const std::string caption = CaptionOf(rule, test.main);
     const char* const text = rule.check == TokenCheck::MustNotBeNumeric ? "E104" : "E105";
     EXPECT_EQ(test.error.lstErrors.Rows(), (Rows{{"BUS", caption, text}})) << "token " << index;
   }

@@ -245,7 +245,8 @@ TEST_F(OpenFileTest, TheStepsOfALoadComeInOrder) {
   for (TabGroup* tabs : {&test.main.SSTab1, &test.main.SSTab2, &test.main.SSTab3}) {
     WatchShowing(test, *tabs);
   }
-  for (TextBox* box : {&test.main.txtAuthor, &test.main.txtDate, &test.main.txtAutoname}) {
+  for (TextBox* box : std::initializer_list<TextBox*>{&test.main.txtAuthor, &test.main.txtDate,
+                                                      &test.main.txtAutoname}) {
     WatchText(test, *box);
   }
   test.OpenHandling(CrLf({"; Author: Ada", "; Created 2003"}) + kBus);

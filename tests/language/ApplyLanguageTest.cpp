@@ -1,5 +1,5 @@
 // Which entry of the language table stands where on screen.
-#include "language/ApplyLanguage.h"
+#include "language/LanguageFiles.h"
 #include "support/TableRecords.h"
 #include "support/TestSession.h"
 
@@ -280,7 +280,7 @@ TEST(ApplyLanguage, ATabShowsOneAmpersandForTwoAndABreakAsItIs) {
   s.vars.Lang[17] = "&Mass\r\n(kg)";
   ApplyLanguage(s.session);
   EXPECT_EQ(s.main.SSTab1.Tabs()[2], "Power&Drive");
-  EXPECT_EQ(s.main.lblGewicht.Caption(), "&Mass\r\n(kg)");
+  EXPECT_EQ(s.main.txtGewicht.label.Caption(), "&Mass\r\n(kg)");
 }
 
 }  // namespace

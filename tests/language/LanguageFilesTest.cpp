@@ -4,11 +4,11 @@
 #include "core/DiskFiles.h"
 #include "languages/Faults.h"
 #include "languages/Report.h"
-#include "screen/Captions.h"
 #include "screen/Fields.h"
 
 #include <gtest/gtest.h>
 #include <map>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -71,34 +71,34 @@ std::string Read(const std::string& caption) {
 
 using Designed = std::map<int, std::string>;
 
-Designed DesignOfCaptions() {
-  FrmMain main;
-  FrmError error;
-  FrmExport exporter;
-  Designed design;
-  for (const auto& rows : {CaptionsOf(main), CaptionsOf(error), CaptionsOf(exporter)}) {
-    for (const CaptionRow& row : rows) design.emplace(row.lang, row.design);
-  }
-  for (const TabCaptionRow& row : TabCaptionsOf(main)) design.emplace(row.lang, Read(row.design));
-  for (const ColumnCaptionRow& row : ColumnCaptions()) design.emplace(row.lang, row.design);
-  return design;
+void AddDesign(std::span<const Wording> wordings, Designed& design) {
+  for (const Wording& words : wordings) design.emplace(words.lang, Read(words.design));
 }
 
-template <class Fields>
-void AddDesignOfFields(const Fields& fields, Designed& design) {
-  for (const auto& field : fields) {
-    design.emplace(field.label.lang, field.label.design);
-    design.emplace(field.hint.lang, field.hint.design);
+void AddDesignOf(const Window& window, Designed& design) {
+  for (const Control* control : window.Controls()) {
+    if (const auto* captioned = dynamic_cast<const Captioned*>(control))
+      design.emplace(captioned->Words().lang, captioned->Words().design);
+    if (const auto* tabs = dynamic_cast<const TabGroup*>(control)) AddDesign(tabs->Words(), design);
+    if (const auto* list = dynamic_cast<const ReportList*>(control))
+      AddDesign(list->Words(), design);
+  }
+}
+
+Designed DesignOfCaptions() {
+  Designed design;
+  AddDesignOf(FrmMain(), design);
+  AddDesignOf(FrmError(), design);
+  AddDesignOf(FrmExport(), design);
+  for (const FieldRow<Car>& field : kHandlingFields) {
     int entry = field.entries.firstLang;
-    if (entry == kNoLang) continue;
     for (const char* word : field.entries.words) design.emplace(entry++, word);
   }
+  return design;
 }
 
 TEST(LanguageFiles, GermanHasTheCaptionsOfTheDesign) {
   Designed design = DesignOfCaptions();
-  AddDesignOfFields(kHandlingFields, design);
-  AddDesignOfFields(kDefinitionFields, design);
   design.erase(kNoLang);
   // The design has placeholders for these two hints.
   design.erase(kFirstWheelInfo);

@@ -57,7 +57,7 @@ TEST(Language, TheFirstStartWithOneFileChoosesAndStoresIt) {
   EXPECT_EQ(s.main.cmbSprache.Rows(), (Texts{"Eins"}));
   EXPECT_EQ(s.main.cmbSprache.Row(), 0);
   EXPECT_EQ(s.settings.Get("Settings", "Language"), "Eins");
-  EXPECT_EQ(s.main.lblAnimInfo.Caption(), "a181");
+  EXPECT_EQ(s.main.cmbAnim.hint->Caption(), "a181");
   EXPECT_TRUE(s.desktop.shown.empty());
 }
 
@@ -169,14 +169,14 @@ TEST(Language, AClickSetsTheCaptionsOfTheVehicleAnew) {
   HoldCars(s, {boat});
   s.main.cmbAutos.Choose(0);
   s.main.cmbSprache.ChooseByHand(1);
-  EXPECT_EQ(s.main.lblBias.Caption(), "b177");
-  EXPECT_EQ(s.main.lblBiasInfo.Caption(), "");
+  EXPECT_EQ(s.main.txtBias.label.Caption(), "b177");
+  EXPECT_EQ(s.main.txtBias.hint->Caption(), "");
   IdeEntry plane = TaggedIde("AXO", "x");
   plane.Typ = "plane";
   HoldIdes(s, {plane});
   s.main.cmbAutos.Choose(0);
   s.main.cmbSprache.ChooseByHand(0);
-  EXPECT_EQ(s.main.lblExtra1.Caption(), "a151");
+  EXPECT_EQ(s.main.txtExtra1.label.Caption(), "a151");
   EXPECT_EQ(s.main.lblExtra1Info.Caption(), "a147");
 }
 

@@ -52,7 +52,7 @@ TEST_F(ControlsTest, AControlStartsEnabledAndVisible) {
 }
 
 TEST_F(ControlsTest, TheFramesAroundAControlCountForItsStateHere) {
-  TabGroup tabs(window, "SSTab");
+  TabGroup tabs(window, "SSTab", {});
   Frame frame(window, "frame");
   TextBox box(window, "txtA");
   frame.PutInto(tabs, 2);
@@ -229,16 +229,14 @@ TEST_F(ControlsTest, AScrollBarGoesToTheNearerEnd) {
 }
 
 TEST_F(ControlsTest, ATabIsReadWithoutItsMarks) {
-  TabGroup tabs(window, "SSTab");
-  tabs.SetTabs({"A&&B", "&Open", "C&&&&D", "plain"});
+  TabGroup tabs(window, "SSTab", {{"A&&B"}, {"&Open"}, {"C&&&&D"}, {"plain"}});
   EXPECT_EQ(tabs.Tabs(), (std::vector<std::string>{"A&B", "Open", "C&&D", "plain"}));
   tabs.SetTab(3, "Power && drive");
   EXPECT_EQ(tabs.Tabs()[3], "Power & drive");
 }
 
 TEST_F(ControlsTest, AClickOnATabGivesItsHandlerTheTabThatWasLeft) {
-  TabGroup tabs(window, "SSTab");
-  tabs.SetTabs({"A", "B", "C"});
+  TabGroup tabs(window, "SSTab", {{"A"}, {"B"}, {"C"}});
   std::vector<int> left;
   tabs.clicked = [&](int tab) { left.push_back(tab * 10 + tabs.Tab()); };
   tabs.ClickByHand(2);
@@ -248,8 +246,7 @@ TEST_F(ControlsTest, AClickOnATabGivesItsHandlerTheTabThatWasLeft) {
 }
 
 TEST_F(ControlsTest, AClickOnTheTabInFrontRunsNothing) {
-  TabGroup tabs(window, "SSTab");
-  tabs.SetTabs({"A", "B"});
+  TabGroup tabs(window, "SSTab", {{"A"}, {"B"}});
   tabs.clicked = [this](int) { ++runs; };
   tabs.ClickByHand(0);
   EXPECT_EQ(runs, 0);
@@ -259,8 +256,7 @@ TEST_F(ControlsTest, AClickOnTheTabInFrontRunsNothing) {
 }
 
 TEST_F(ControlsTest, BringingATabToTheFrontIsNoClick) {
-  TabGroup tabs(window, "SSTab");
-  tabs.SetTabs({"A", "B"});
+  TabGroup tabs(window, "SSTab", {{"A"}, {"B"}});
   tabs.clicked = [this](int) { ++runs; };
   Watch(tabs);
   tabs.BringToFront(1);

@@ -22,12 +22,13 @@ std::string Described(const ExpectedRow& row) {
 
 template <class Record>
 std::string Described(const FrmMain& main, const FieldRow<Record>& field) {
-  const auto* const hint = field.hint.control == nullptr ? nullptr : &(main.*field.hint.control);
+  const auto& [label, hint] = LabelsOf(main, field);
+  const Wording info = hint ? hint->Words() : Wording{};
   const auto nameOf = [&](auto input) { return (main.*input).Name(); };
-  return Joined(
-      {std::to_string(field.tab), std::to_string(field.tabRow), (main.*field.label.control).Name(),
-       field.label.design, std::to_string(field.label.lang), std::visit(nameOf, field.input),
-       hint == nullptr ? "" : hint->Name(), field.hint.design, std::to_string(field.hint.lang)});
+  return Joined({std::to_string(field.tab), std::to_string(field.tabRow), label.Name(),
+                 label.Words().design, std::to_string(label.Words().lang),
+                 std::visit(nameOf, field.input), hint ? hint->Name() : "", info.design,
+                 std::to_string(info.lang)});
 }
 
 template <class Fields, class Expected>

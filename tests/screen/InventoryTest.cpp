@@ -1,13 +1,15 @@
 // The windows as they are built, against the list of what they must hold.
 #include "core/CodePage.h"
-#include "screen/Captions.h"
 #include "screen/ExpectedFields.h"
 #include "screen/ExpectedInventory.h"
+#include "screen/MainWindow.h"
 #include "screen/OtherWindows.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <map>
+#include <set>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -107,10 +109,27 @@ std::string Translated(const std::string& name, const std::string& design, int l
   return name + ": " + design + ", " + std::to_string(lang);
 }
 
-Texts Translations(const std::vector<CaptionRow>& rows) {
+Texts Translations(const std::string& name, std::span<const Wording> wordings) {
   Texts texts;
-  for (const CaptionRow& row : rows)
-    texts.push_back(Translated(row.control.Name(), row.design, row.lang));
+  for (const Wording& words : wordings)
+    texts.push_back(Translated(name + std::to_string(texts.size()), words.design, words.lang));
+  return texts;
+}
+
+// Of the captions that belong to no field and no flag.
+Texts Translations(const Window& window) {
+  std::set<std::string> ofFields;
+  for (const auto& field : kExpectedHandlingFields)
+    ofFields.insert({field.shown.label, field.shown.info});
+  for (const auto& field : kExpectedDefinitionFields)
+    ofFields.insert({field.shown.label, field.shown.info});
+  Texts texts;
+  for (const Captioned* control : AllOf<Captioned>(window)) {
+    const Wording& words = control->Words();
+    if (ofFields.contains(control->Name()) || Is<CheckBox>(*control)) continue;
+    if (!std::string(words.design).empty())
+      texts.push_back(Translated(control->Name(), words.design, words.lang));
+  }
   return Sorted(texts);
 }
 
@@ -203,11 +222,12 @@ TEST(InventoryTest, ThePagesOfTheTabGroupsReadAsOnScreen) {
 }
 
 TEST(InventoryTest, ThePagesHaveTheirEntriesOfTheLanguageTable) {
-  FrmMain main;
+  const FrmMain main;
   Texts tabs;
-  for (const TabCaptionRow& row : TabCaptionsOf(main))
-    tabs.push_back(
-        Translated(row.group.Name() + "/" + std::to_string(row.tab), row.design, row.lang));
+  for (const TabGroup* group : AllOf<TabGroup>(main)) {
+    const Texts texts = Translations(group->Name() + "/", group->Words());
+    tabs.insert(tabs.end(), texts.begin(), texts.end());
+  }
   EXPECT_EQ(tabs, (Texts{"SSTab1/0: Allgemein, 2", "SSTab1/1: Dimensionen, 3",
                          "SSTab1/2: Leistung&&Antrieb, 4", "SSTab1/3: Bremsen, 5",
                          "SSTab1/4: Aufhängung, 6", "SSTab1/5: Flags, 7", "SSTab1/6: Bild, 64",
@@ -217,19 +237,14 @@ TEST(InventoryTest, ThePagesHaveTheirEntriesOfTheLanguageTable) {
 }
 
 TEST(InventoryTest, EachCaptionHasItsEntryOfTheLanguageTable) {
-  FrmMain main;
-  FrmError error;
-  FrmExport exporter;
-  EXPECT_EQ(Translations(CaptionsOf(main)), ExpectedTranslations(kMainControls));
-  EXPECT_EQ(Translations(CaptionsOf(error)), ExpectedTranslations(kErrorControls));
-  EXPECT_EQ(Translations(CaptionsOf(exporter)), ExpectedTranslations(kExportControls));
+  EXPECT_EQ(Translations(FrmMain()), ExpectedTranslations(kMainControls));
+  EXPECT_EQ(Translations(FrmError()), ExpectedTranslations(kErrorControls));
+  EXPECT_EQ(Translations(FrmExport()), ExpectedTranslations(kExportControls));
 }
 
 TEST(InventoryTest, TheColumnsOfProblemsHaveTheirEntriesOfTheLanguageTable) {
-  Texts columns;
-  for (const ColumnCaptionRow& row : ColumnCaptions())
-    columns.push_back(Translated(std::to_string(row.column), row.design, row.lang));
-  EXPECT_EQ(columns, (Texts{"0: Auto, 107", "1: Parameter, 108", "2: Error, 109"}));
+  EXPECT_EQ(Translations("", FrmError().lstErrors.Words()),
+            (Texts{"0: Auto, 107", "1: Parameter, 108", "2: Error, 109"}));
 }
 
 TEST(InventoryTest, TheFixedListsHaveTheirEntriesAndAllOthersAreEmpty) {

@@ -109,13 +109,12 @@ TEST_F(MirrorTest, OfABoxAndABar) {
 }
 
 TEST_F(MirrorTest, OfTabs) {
-  TabGroup tabs(window, "SSTab");
+  TabGroup tabs(window, "SSTab", {{"a"}, {"b"}});
   Watch<TabGroup>(tabs, FrontOf);
   tabs.clicked = [this](int left) { found.push_back("left " + std::to_string(left)); };
-  tabs.SetTabs({"a", "b"});
   tabs.SetTab(1, "c");
   tabs.ClickByHand(1);
-  EXPECT_EQ(found, (Texts{"a;b;0", "a;c;0", "a;c;1", "left 0"}));
+  EXPECT_EQ(found, (Texts{"a;c;0", "a;c;1", "left 0"}));
 }
 
 TEST_F(MirrorTest, OfAPicture) {

@@ -1,6 +1,5 @@
 #include "support/EdgedSession.h"
 
-#include "forms/Lifecycle.h"
 #include "forms/Wiring.h"
 
 namespace wheelwright::testing {

@@ -1,7 +1,7 @@
 #include "support/TestSession.h"
 
 #include "forms/Wiring.h"
-#include "language/ApplyLanguage.h"
+#include "language/LanguageFiles.h"
 
 #include <gtest/gtest.h>
 

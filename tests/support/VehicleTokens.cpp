@@ -15,41 +15,46 @@ constexpr TokenCheck kWord = TokenCheck::MustNotBeNumeric;
 
 // clang-format off
 const std::array<TokenRule, 33> kTokenRules = {{
-    {"0.0", kWord, &FrmMain::lblAutoname},
-    {"0.0", kNumber, &FrmMain::lblGewicht},
-    {"0.0", kNumber, &FrmMain::lblBreite},
-    {"0.0", kNumber, &FrmMain::lblHoehe},
-    {"0.0", kNumber, &FrmMain::lblLaenge},
-    {"0.0", kNumber, &FrmMain::lblMassenmittelpX},
-    {"0.0", kNumber, &FrmMain::lblMassenmittelpY},
-    {"0.0", kNumber, &FrmMain::lblMassenmittelpZ},
-    {"0", kNumber, &FrmMain::lblSubMerged},
-    {"0.0", kNumber, &FrmMain::lblTractionMulti},
-    {"0.0", kNumber, &FrmMain::lblTractionLoss},
-    {"0.0", kNumber, &FrmMain::lblTractionBias},
-    {"0", kNumber, &FrmMain::lblGaenge},
-    {"0.0", kNumber, &FrmMain::lblGeschwindigkeit},
-    {"0.0", kNumber, &FrmMain::lblBeschleunigung},
+    {"0.0", kWord, "lblAutoname"},
+    {"0.0", kNumber, "lblGewicht"},
+    {"0.0", kNumber, "lblBreite"},
+    {"0.0", kNumber, "lblHoehe"},
+    {"0.0", kNumber, "lblLaenge"},
+    {"0.0", kNumber, "lblMassenmittelpX"},
+    {"0.0", kNumber, "lblMassenmittelpY"},
+    {"0.0", kNumber, "lblMassenmittelpZ"},
+    {"0", kNumber, "lblSubMerged"},
+    {"0.0", kNumber, "lblTractionMulti"},
+    {"0.0", kNumber, "lblTractionLoss"},
+    {"0.0", kNumber, "lblTractionBias"},
+    {"0", kNumber, "lblGaenge"},
+    {"0.0", kNumber, "lblGeschwindigkeit"},
+    {"0.0", kNumber, "lblBeschleunigung"},
     {"F", kAnything, nullptr},
-    {"P", kWord, &FrmMain::lblMotorTyp},
-    {"0.0", kNumber, &FrmMain::lblBremsstaerke},
-    {"0.0", kNumber, &FrmMain::lblBrakeBias},
-    {"0", kNumber, &FrmMain::lblABS},
-    {"0.0", kNumber, &FrmMain::lblRadeinschlag},
-    {"0.0", kNumber, &FrmMain::lblKraftlevel},
-    {"0.0", kNumber, &FrmMain::lblDLevel},
-    {"0.0", kNumber, &FrmMain::lblPedSeat},
-    {"0.0", kNumber, &FrmMain::lblKoll},
-    {"0", kNumber, &FrmMain::lblPreis},
-    {"0.0", kNumber, &FrmMain::lblOLimit},
-    {"0.0", kNumber, &FrmMain::lblULimit},
-    {"0.0", kNumber, &FrmMain::lblBias},
+    {"P", kWord, "lblMotorTyp"},
+    {"0.0", kNumber, "lblBremsstaerke"},
+    {"0.0", kNumber, "lblBrakeBias"},
+    {"0", kNumber, "lblABS"},
+    {"0.0", kNumber, "lblRadeinschlag"},
+    {"0.0", kNumber, "lblKraftlevel"},
+    {"0.0", kNumber, "lblDLevel"},
+    {"0.0", kNumber, "lblPedSeat"},
+    {"0.0", kNumber, "lblKoll"},
+    {"0", kNumber, "lblPreis"},
+    {"0.0", kNumber, "lblOLimit"},
+    {"0.0", kNumber, "lblULimit"},
+    {"0.0", kNumber, "lblBias"},
     {"0.0", kNumber, nullptr},
     {"0000000", kAnything, nullptr},
-    {"0", kNumber, &FrmMain::lblFrontLichter},
-    {"0", kNumber, &FrmMain::lblRearLichter},
+    {"0", kNumber, "lblFrontLichter"},
+    {"0", kNumber, "lblRearLichter"},
 }};
 // clang-format on
+
+std::string CaptionOf(const TokenRule& rule, const FrmMain& main) {
+  if (rule.label == nullptr) return "";
+  return dynamic_cast<const Captioned&>(*main.Find(rule.label)).Caption();
+}
 
 LineProblem WrongCount(const std::string& vehicle, int tokens) {
   return {.vehicle = vehicle, .tokens = tokens};
@@ -71,7 +76,7 @@ std::vector<ReportList::Row> RowsOf(const LineProblems& problems, const FrmMain&
       if (kHandlingTokens[i].value != problem.field) continue;
       const TokenRule& rule = kTokenRules[i];
       text = problem.failed == kWord ? "E104" : "E105";
-      if (rule.label != nullptr) caption = (captions.*rule.label).Caption();
+      caption = CaptionOf(rule, captions);
     }
     rows.push_back({problem.vehicle, caption, text});
   }

@@ -20,10 +20,11 @@ using Tokens = std::vector<std::string>;
 struct TokenRule {
   const char* missing;
   TokenCheck check;
-  Label FrmMain::*label;
+  const char* label;
 };
 
 extern const std::array<TokenRule, 33> kTokenRules;
+std::string CaptionOf(const TokenRule& rule, const FrmMain& main);
 
 // Problems as the checks of a line give them.
 LineProblem WrongCount(const std::string& vehicle, int tokens);

@@ -3,7 +3,7 @@
 
 #include "bench/DataFiles.h"
 #include "core/DiskFiles.h"
-#include "forms/Lifecycle.h"
+#include "forms/Wiring.h"
 
 #include <filesystem>
 #include <ostream>

@@ -1,7 +1,7 @@
 #include "languages/RoomFaults.h"
 
 #include "editor/ShowVehicle.h"
-#include "language/ApplyLanguage.h"
+#include "language/LanguageFiles.h"
 #include "languages/Sightings.h"
 #include "replay/OnScreen.h"
 #include "replay/RealScreen.h"

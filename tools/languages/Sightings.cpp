@@ -1,8 +1,8 @@
 #include "languages/Sightings.h"
 
+#include "editor/DefinitionRecord.h"
 #include "editor/ShowVehicle.h"
-#include "editor/TypeRules.h"
-#include "language/ApplyLanguage.h"
+#include "language/LanguageFiles.h"
 #include "replay/Names.h"
 #include "replay/PlainScreen.h"
 #include "screen/Fields.h"
@@ -26,7 +26,8 @@ void MarkEntries(Vars& vars) {
 bool IsHint(const Session& session, const Control& control) {
   const FrmMain& main = session.main;
   const auto shownBy = [&](const auto& field) {
-    return field.hint.control != nullptr && &(main.*field.hint.control) == &control;
+    const auto& hint = LabelsOf(main, field).hint;
+    return hint && &*hint == &control;
   };
   return std::any_of(kHandlingFields.begin(), kHandlingFields.end(), shownBy) ||
          std::any_of(kDefinitionFields.begin(), kDefinitionFields.end(), shownBy);

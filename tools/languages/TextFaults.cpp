@@ -119,10 +119,12 @@ std::string NumbersIn(std::string_view text) {
 }
 
 void TextCheck::CheckRanges() {
+  const FrmMain main;
   for (const FieldRow<Car>& field : kHandlingFields) {
-    if (field.hint.control == nullptr) continue;
-    const auto entry = static_cast<std::size_t>(field.hint.lang);
-    const std::string needed = NumbersIn(field.hint.design);
+    const auto& hint = LabelsOf(main, field).hint;
+    if (!hint) continue;
+    const auto entry = static_cast<std::size_t>(hint->Words().lang);
+    const std::string needed = NumbersIn(hint->Words().design);
     if (NumbersIn(entries_[entry]) == needed) continue;
     Add(entry, "must name the numbers " + needed + " in this order, with decimal points");
   }

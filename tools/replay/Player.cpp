@@ -1,6 +1,6 @@
 #include "replay/Player.h"
 
-#include "forms/Lifecycle.h"
+#include "forms/Wiring.h"
 
 #include <array>
 #include <chrono>

@@ -1,12 +1,9 @@
 #include "forms/qt/Program.h"
 
 #include "core/DiskFiles.h"
-#include "forms/Lifecycle.h"
 #include "forms/Wiring.h"
 #include "forms/qt/layout/WindowSet.h"
-#include "forms/qt/system/QtDesktop.h"
-#include "forms/qt/system/QtEdge.h"
-#include "forms/qt/system/QtSettings.h"
+#include "forms/qt/system/QtPorts.h"
 #include "screen/Session.h"
 
 #include <string>

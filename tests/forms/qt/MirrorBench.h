@@ -45,7 +45,7 @@ class MirrorBench : public ::testing::Test {
   PickList pick{plain, "pick"};
   ListBox list{plain, "list"};
   MarkList marks{plain, "marks"};
-  TabGroup tabs{plain, "tabs"};
+  TabGroup tabs{plain, "tabs", {{"One"}, {"R&&D"}, {"Three"}}};
   Label label{plain, "label"};
   Frame frame{plain, "frame"};
   Button button{plain, "button"};

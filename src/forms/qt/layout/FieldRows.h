@@ -56,10 +56,11 @@ void BuildRows(FrmMain& main, const std::array<FieldRow<Record>, Count>& fields,
             [](const auto* left, const auto* right) { return left->tabRow < right->tabRow; });
   FieldRows rows(page, mirrors);
   for (const FieldRow<Record>* field : ofTab) {
-    rows.StartRow(main.*field->label.control);
+    auto& [label, hint] = LabelsOf(main, *field);
+    rows.StartRow(label);
     std::visit([&](auto input) { rows.AddInput(main.*input); }, field->input);
     if (InputOf<TextBox>(main, *field) == &main.txtExtra1) rows.AddInput(main.cmbExtra1);
-    if (field->hint.control != nullptr) rows.AddInfo(main.*field->hint.control);
+    if (hint) rows.AddInfo(*hint);
   }
   rows.Finish();
 }

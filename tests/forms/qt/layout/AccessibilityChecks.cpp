@@ -78,11 +78,10 @@ void ExpectRow(const View& view, const Control* input, const Label& label, const
 template <class Fields>
 void ExpectLabelledFields(const View& view, const Fields& fields) {
   for (const auto& field : fields) {
-    const auto hint = field.hint.control;
-    const Label* const info = hint == nullptr ? nullptr : &(view.main.*hint);
-    const auto expect = [&](auto input) {
-      ExpectRow(view, &(view.main.*input), view.main.*field.label.control, info);
-    };
+    const auto& [label, hint] = LabelsOf(view.main, field);
+    const Label* const info = hint ? &*hint : nullptr;
+    const Label& named = label;
+    const auto expect = [&](auto input) { ExpectRow(view, &(view.main.*input), named, info); };
     std::visit(expect, field.input);
   }
 }
@@ -90,7 +89,7 @@ void ExpectLabelledFields(const View& view, const Fields& fields) {
 void ExpectLabelledRows(const View& view) {
   ExpectLabelledFields(view, kHandlingFields);
   ExpectLabelledFields(view, kDefinitionFields);
-  ExpectRow(view, &view.main.cmbExtra1, view.main.lblExtra1, &view.main.lblExtra1Info);
+  ExpectRow(view, &view.main.cmbExtra1, view.main.txtExtra1.label, &view.main.lblExtra1Info);
 }
 
 // The letter behind a single "&"; nothing if there is none.

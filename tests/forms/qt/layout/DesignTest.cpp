@@ -93,13 +93,13 @@ TEST_F(MainDesignTest, TheTabsStandBesideTheColumnAndAboveTheBottomRow) {
 TEST_F(MainDesignTest, TheRowsOfAPageAreOfOneHeightAndItsInputsOfOneWidth) {
   OpenOnTab(kGeneralTab);
   const int character = windows.Of(main).fontMetrics().averageCharWidth();
-  const QRect label = Place(main.lblGewicht);
+  const QRect label = Place(main.txtGewicht.label);
   const QRect input = Place(main.txtGewicht);
   EXPECT_EQ(input.left(), label.left() + 23 * character + letter);
   EXPECT_GE(input.width(), 24 * character);
-  EXPECT_NEAR(2 * input.width(), 3 * Place(main.lblGewichtInfo).width(), letter);
-  EXPECT_EQ(Beside(main.txtGewicht, main.lblGewichtInfo), letter);
-  EXPECT_EQ(Place(main.lblPedSeat).top() - label.top(),
+  EXPECT_NEAR(2 * input.width(), 3 * Place(*main.txtGewicht.hint).width(), letter);
+  EXPECT_EQ(Beside(main.txtGewicht, *main.txtGewicht.hint), letter);
+  EXPECT_EQ(Place(main.txtPedSeat.label).top() - label.top(),
             Of<QComboBox>(main.cmbFrontLichter).sizeHint().height() + letter / 2);
   EXPECT_EQ(Place(main.cmbFrontLichter).width(), input.width());
 }

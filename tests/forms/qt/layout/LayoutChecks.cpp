@@ -115,8 +115,8 @@ void ForTwoRows(const Fields& fields, const View& view, const Visitor& visit) {
   for (const auto& upper : fields) {
     for (const auto& lower : fields) {
       if (upper.tab != lower.tab) continue;
-      const QWidget& above = view.Of(view.main.*upper.label.control);
-      const QWidget& below = view.Of(view.main.*lower.label.control);
+      const QWidget& above = view.Of(LabelsOf(view.main, upper).label);
+      const QWidget& below = view.Of(LabelsOf(view.main, lower).label);
       if (upper.tabRow >= lower.tabRow || !above.isVisible() || !below.isVisible()) continue;
       visit(above.geometry(), below.geometry(), lower.tabRow - upper.tabRow);
     }

@@ -62,10 +62,10 @@ TEST_F(PlainTextTest, ATitleShowsAFilesNameWhole) {
 }
 
 TEST_F(PlainTextTest, ALanguagesCaptionsAreNoMarkup) {
-  main.lblGewicht.SetCaption("<i>a</i> && b");
-  main.lblGewichtInfo.SetCaption("<i>a</i> && b");
+  main.txtGewicht.label.SetCaption("<i>a</i> && b");
+  main.txtGewicht.hint->SetCaption("<i>a</i> && b");
   main.SSTab1.SetTab(0, "<i>a</i> && b");
-  EXPECT_EQ(Of<QLabel>(main.lblGewichtInfo).text(), "<i>a</i> & b");
+  EXPECT_EQ(Of<QLabel>(*main.txtGewicht.hint).text(), "<i>a</i> & b");
   EXPECT_EQ(Of<QLineEdit>(main.txtGewicht).accessibleName(), "<i>a</i> & b");
   EXPECT_EQ(Of<QTabWidget>(main.SSTab1).tabText(0), "<i>a</i> && b");
   EXPECT_EQ(Differences(), "");

@@ -118,7 +118,7 @@ void WindowsTest::WalkColors() {
 void WindowsTest::WalkOtherWindows() {
   main.cmdExportCar.ClickByHand();
   Visit(test.exporter, "export");
-  test.error.lstErrors.AddRow({"BUS", main.lblGewicht.Caption(), test.vars.Lang[104]});
+  test.error.lstErrors.AddRow({"BUS", main.txtGewicht.label.Caption(), test.vars.Lang[104]});
   test.error.SetVisible(true);
   Visit(test.error, "load problems");
 }

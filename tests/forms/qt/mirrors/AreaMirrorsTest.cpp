@@ -1,6 +1,6 @@
 // What pictures and swatches paint.
 #include "forms/qt/MirrorBench.h"
-#include "forms/qt/system/QtDesktop.h"
+#include "forms/qt/system/QtPorts.h"
 #include "forms/qt/widgets/Pictures.h"
 #include "forms/qt/widgets/Swatches.h"
 #include "screen/MainWindow.h"

@@ -59,7 +59,6 @@ TEST_F(EndedProgramTest, AChoiceStays) {
 }
 
 TEST_F(EndedProgramTest, ATabStaysInFront) {
-  tabs.SetTabs({"One", "Two"});
   auto& widget = Show<QTabWidget>(tabs);
   EndProgram();
   QTest::mouseClick(widget.tabBar(), Qt::LeftButton, {}, widget.tabBar()->tabRect(1).center());

@@ -10,7 +10,6 @@ namespace {
 class TabGroupMirrorTest : public MirrorBench {
  protected:
   TabGroupMirrorTest() {
-    tabs.SetTabs({"One", "R&&D", "Three"});
     tabs.clicked = [this](int tab) { left.push_back(tab); };
   }
 

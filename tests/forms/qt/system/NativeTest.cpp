@@ -1,7 +1,7 @@
 // What each system does in its own way: here the common file dialog as Qt's.
 #include "core/Failure.h"
 #include "forms/qt/ModalHand.h"
-#include "forms/qt/system/QtDesktop.h"
+#include "forms/qt/system/QtPorts.h"
 #include "support/Thrown.h"
 
 #include <QFile>

@@ -1,8 +1,7 @@
 // Boxes, pointer and shell as Qt reaches them, and what the edge shows at an unhappy end.
 #include "core/Failure.h"
 #include "forms/qt/ModalHand.h"
-#include "forms/qt/system/QtDesktop.h"
-#include "forms/qt/system/QtEdge.h"
+#include "forms/qt/system/QtPorts.h"
 
 #include <QDesktopServices>
 #include <QLabel>

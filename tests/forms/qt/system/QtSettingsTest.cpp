@@ -1,5 +1,5 @@
 // The settings store on disk.
-#include "forms/qt/system/QtSettings.h"
+#include "forms/qt/system/QtPorts.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "forms/qt/system/QtDesktop.h"
+#include "forms/qt/system/QtPorts.h"
 
 #include "forms/qt/system/Native.h"
 #include "forms/qt/widgets/Pictures.h"
@@ -20,12 +20,6 @@ QWidget* WindowInUse() {
   return nullptr;
 }
 
-bool Ask(QMessageBox::Icon icon, const std::string& text) {
-  return ShowBox(icon, text, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
-}
-
-}  // namespace
-
 QMessageBox::StandardButton ShowBox(QMessageBox::Icon icon, const std::string& text,
                                     QMessageBox::StandardButtons buttons) {
   QMessageBox box(icon, QCoreApplication::applicationName(), "", buttons, WindowInUse());
@@ -33,6 +27,26 @@ QMessageBox::StandardButton ShowBox(QMessageBox::Icon icon, const std::string& t
   box.setText(ShownMessage(text));
   return static_cast<QMessageBox::StandardButton>(box.exec());
 }
+
+bool Ask(QMessageBox::Icon icon, const std::string& text) {
+  return ShowBox(icon, text, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+}
+
+QString Address(const std::string& section, const std::string& key) {
+  return QString::fromStdString(section + "/" + key);
+}
+
+std::string DescriptionInFlight() {
+  try {
+    throw;
+  } catch (const std::exception& exception) {
+    return exception.what();
+  } catch (...) {
+    return "Unknown exception";
+  }
+}
+
+}  // namespace
 
 void QtDesktop::ShowInformation(const std::string& text) {
   ShowBox(QMessageBox::Information, text, QMessageBox::Ok);
@@ -74,6 +88,33 @@ std::optional<PictureSize> QtDesktop::SizeOfPicture(const std::string& file) {
 void QtDesktop::EndProgram() {
   ended_ = true;
   QCoreApplication::exit(0);
+}
+
+QtSettings::QtSettings()
+    : store_(QSettings::NativeFormat, QSettings::UserScope, "Wheelwright", "Wheelwright") {}
+
+std::optional<std::string> QtSettings::Get(const std::string& section,
+                                           const std::string& key) const {
+  if (!store_.contains(Address(section, key))) return std::nullopt;
+  return store_.value(Address(section, key)).toString().toStdString();
+}
+
+void QtSettings::Set(const std::string& section, const std::string& key, const std::string& value) {
+  store_.setValue(Address(section, key), QString::fromStdString(value));
+  store_.sync();
+}
+
+void QtEdge::EndByFailure(const Failure& failure) {
+  End(std::to_string(static_cast<int>(failure.Number())) + "\n" + failure.Description());
+}
+
+void QtEdge::EndByOtherException() { End("\n" + DescriptionInFlight()); }
+
+void QtEdge::End(const std::string& description) {
+  hasFailed_ = true;
+  while (QApplication::overrideCursor() != nullptr) QApplication::restoreOverrideCursor();
+  ShowBox(QMessageBox::Critical, "Run-time error " + description, QMessageBox::Ok);
+  QCoreApplication::exit(1);
 }
 
 }  // namespace wheelwright

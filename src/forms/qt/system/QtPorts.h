@@ -1,9 +1,13 @@
-// The desktop as Qt reaches it.
+// The program's ports as Qt reaches them: the desktop, the settings in the place where the platform
+// keeps a user's, and the edge of the event loop.
 #pragma once
 
+#include "core/Settings.h"
+#include "forms/EventEdge.h"
 #include "screen/Desktop.h"
 
 #include <QMessageBox>
+#include <QSettings>
 #include <QString>
 
 namespace wheelwright {
@@ -30,8 +34,31 @@ class QtDesktop : public Desktop {
   QString lastDirectory_;
 };
 
-// A box of that kind above the active window, its text (UTF-8) never read as markup.
-QMessageBox::StandardButton ShowBox(QMessageBox::Icon icon, const std::string& text,
-                                    QMessageBox::StandardButtons buttons);
+class QtSettings : public Settings {
+ public:
+  QtSettings();
+
+  std::optional<std::string> Get(const std::string& section, const std::string& key) const override;
+  void Set(const std::string& section, const std::string& key, const std::string& value) override;
+
+ private:
+  QSettings store_;
+};
+
+// What no handler caught is shown in a box and ends the program with exit code 1.
+class QtEdge : public EventEdge {
+ public:
+  // Whether a failure has ended the program; the event loop, if it runs, ends soon.
+  bool HasFailed() const { return hasFailed_; }
+
+ protected:
+  void EndByFailure(const Failure& failure) override;
+  void EndByOtherException() override;
+
+ private:
+  void End(const std::string& description);
+
+  bool hasFailed_ = false;
+};
 
 }  // namespace wheelwright
