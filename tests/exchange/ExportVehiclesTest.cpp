@@ -1,4 +1,4 @@
-#include "exchange/Export.h"
+#include "exchange/ExportImport.h"
 #include "support/Exchange.h"
 #include "support/TableRecords.h"
 

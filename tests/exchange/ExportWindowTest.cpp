@@ -1,4 +1,4 @@
-#include "exchange/Export.h"
+#include "exchange/ExportImport.h"
 #include "support/TestSession.h"
 
 #include <gtest/gtest.h>

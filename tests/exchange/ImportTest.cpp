@@ -1,6 +1,6 @@
 // What an import does around its reading.
 #include "core/Failure.h"
-#include "exchange/Import.h"
+#include "exchange/ExportImport.h"
 #include "support/Exchange.h"
 #include "support/TableRecords.h"
 

@@ -1,5 +1,5 @@
 #include "core/Failure.h"
-#include "exchange/Export.h"
+#include "exchange/ExportImport.h"
 #include "support/Exchange.h"
 #include "support/TableRecords.h"
 

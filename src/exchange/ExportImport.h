@@ -1,4 +1,5 @@
-// The window in which the vehicles to export are chosen, and the files that it writes.
+// The window in which the vehicles to export are chosen, and the files that it writes; taking
+// vehicles in from such a file, or from any file with vehicle lines.
 #pragma once
 
 #include "screen/Session.h"
@@ -25,5 +26,11 @@ void ExportVehicles(Session& session);
 // Nothing happens while the list is empty. Not guarded: even a cancelled dialog is a failure that
 // passes.
 void WriteTuningFile(Session& session);
+
+// cmdImportCar: adds the vehicles of a file chosen by dialog to the working table and their names
+// to cmbAutos, and shows the first vehicle. Every line that begins with any name of the list makes
+// a record, also if a vehicle of that name is there. Guarded; a failure leaves what was added until
+// then.
+void ImportVehicles(Session& session);
 
 }  // namespace wheelwright
