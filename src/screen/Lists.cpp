@@ -16,14 +16,7 @@ std::string RowList::Text() const {
   return row_ == kNoRow ? std::string() : rows_[static_cast<std::size_t>(row_)];
 }
 
-void RowList::AddRow(std::string text) {
-  if (order_ == Order::Sorted) {
-    MergeSorted({std::move(text)});
-  } else {
-    rows_.push_back(std::move(text));
-  }
-  Tell(Aspect::Rows);
-}
+void RowList::AddRow(std::string text) { AddRows({std::move(text)}); }
 
 void RowList::AddRows(std::vector<std::string> texts) {
   if (texts.empty()) return;
@@ -32,6 +25,7 @@ void RowList::AddRows(std::vector<std::string> texts) {
   } else {
     rows_.insert(rows_.end(), std::make_move_iterator(texts.begin()),
                  std::make_move_iterator(texts.end()));
+    marked_.resize(rows_.size());
   }
   Tell(Aspect::Rows);
 }
@@ -43,36 +37,36 @@ void RowList::MergeSorted(std::vector<std::string> texts) {
     std::stable_sort(texts.begin(), texts.end(), SortsBefore);
   }
   std::vector<std::string> merged;
-  std::vector<bool> isNew;
+  std::vector<bool> marked;
   merged.reserve(rows_.size() + texts.size());
-  isNew.reserve(merged.capacity());
+  marked.reserve(merged.capacity());
   auto next = texts.begin();
   int chosen = kNoRow;
   for (std::size_t row = 0; row < rows_.size(); ++row) {
     for (; next != texts.end() && SortsBefore(*next, rows_[row]); ++next) {
       merged.push_back(std::move(*next));
-      isNew.push_back(true);
+      marked.push_back(false);
     }
     if (static_cast<int>(row) == row_) chosen = static_cast<int>(merged.size());
     merged.push_back(std::move(rows_[row]));
-    isNew.push_back(false);
+    marked.push_back(marked_[row]);
   }
   merged.insert(merged.end(), std::make_move_iterator(next), std::make_move_iterator(texts.end()));
-  isNew.resize(merged.size(), true);
+  marked.resize(merged.size());
   rows_ = std::move(merged);
+  marked_ = std::move(marked);
   row_ = chosen;
-  RowsJoined(isNew);
 }
 
 void RowList::RemoveRow(int row) {
   CheckRow(row);
   rows_.erase(rows_.begin() + row);
+  marked_.erase(marked_.begin() + row);
   if (row == row_) {
     row_ = kNoRow;
   } else if (row < row_) {
     --row_;
   }
-  RowRemoved(row);
   Tell(Aspect::Rows);
 }
 
@@ -89,7 +83,7 @@ void RowList::Clear() { ReplaceAll({}); }
 void RowList::ReplaceAll(std::vector<std::string> rows) {
   rows_ = std::move(rows);
   row_ = kNoRow;
-  RowsCleared();
+  marked_.assign(rows_.size(), false);
   Tell(Aspect::Rows);
 }
 
@@ -117,11 +111,6 @@ std::vector<int> MarkList::Marked() const {
   return rows;
 }
 
-bool MarkList::IsMarked(int row) const {
-  const auto index = static_cast<std::size_t>(row);
-  return index < marked_.size() && marked_[index];
-}
-
 void MarkList::MarkByHand(const std::vector<int>& rows) {
   std::vector<bool> marked(Rows().size(), false);
   for (const int row : rows) {
@@ -139,20 +128,5 @@ void MarkList::RemoveMarked() {
   }
   ReplaceAll(std::move(kept));
 }
-
-void MarkList::RowsJoined(const std::vector<bool>& isNew) {
-  std::vector<bool> moved(isNew.size(), false);
-  int old = 0;
-  for (std::size_t row = 0; row < isNew.size(); ++row) {
-    if (!isNew[row]) moved[row] = IsMarked(old++);
-  }
-  marked_ = std::move(moved);
-}
-
-void MarkList::RowRemoved(int row) {
-  if (row < static_cast<int>(marked_.size())) marked_.erase(marked_.begin() + row);
-}
-
-void MarkList::RowsCleared() { marked_.clear(); }
 
 }  // namespace wheelwright

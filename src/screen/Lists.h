@@ -49,11 +49,8 @@ class RowList : public Control {
   // Whether the program's choice of the row that is chosen already runs `clicked`.
   bool runsClickOnSameRow = true;
 
-  // Called when rows have moved, so that marks can move with them. `isNew` has an element for each
-  // row that is there now.
-  virtual void RowsJoined(const std::vector<bool>& /*isNew*/) {}
-  virtual void RowRemoved(int /*row*/) {}
-  virtual void RowsCleared() {}
+  // Which rows are marked, in a list that has marks: an element for each row, which moves with it.
+  std::vector<bool> marked_;
 
   // Other rows in place of all, with nothing chosen or marked.
   void ReplaceAll(std::vector<std::string> rows);
@@ -88,19 +85,11 @@ class MarkList : public RowList {
 
   // The marked rows from first to last.
   std::vector<int> Marked() const;
-  bool IsMarked(int row) const;
+  bool IsMarked(int row) const { return row < Count() && marked_[static_cast<std::size_t>(row)]; }
   // Marks exactly these rows; failure 380 for a row that isn't there.
   void MarkByHand(const std::vector<int>& rows);
   // Removes every marked row, as if each were removed from last to first.
   void RemoveMarked();
-
- protected:
-  void RowsJoined(const std::vector<bool>& isNew) override;
-  void RowRemoved(int row) override;
-  void RowsCleared() override;
-
- private:
-  std::vector<bool> marked_;
 };
 
 }  // namespace wheelwright
