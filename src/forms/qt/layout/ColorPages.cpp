@@ -1,4 +1,3 @@
-#include "forms/qt/layout/FieldRows.h"
 #include "forms/qt/layout/Layouts.h"
 #include "gamefiles/PaletteLabel.h"
 
@@ -9,18 +8,31 @@
 namespace wheelwright {
 namespace {
 
+QHBoxLayout* Halves(QWidget& page) {
+  const int gap = page.fontMetrics().height();
+  auto* halves = new QHBoxLayout(&page);
+  halves->setContentsMargins(gap, gap, gap, gap);
+  halves->setSpacing(gap);
+  return halves;
+}
+
+// The input with its name in front of it, and what shows its value behind.
+void PlaceRow(QGridLayout& grid, LabelMirror& name, QWidget& input, QWidget& value) {
+  const int row = grid.rowCount();
+  name.Name(input);
+  grid.addWidget(&name.Widget(), row, kLabelColumn);
+  grid.addWidget(&input, row, kInputColumn);
+  grid.addWidget(&value, row, kInfoColumn);
+}
+
 void AddBar(Label& label, ScrollBar& bar, Label& value, QGridLayout& grid, QWidget& page,
             MirrorSet& mirrors) {
-  const int row = grid.rowCount();
   LabelMirror& name = mirrors.Add(label, &page);
   QWidget& input = mirrors.Add(bar, &page).Widget();
   QLabel& text = mirrors.Add(value, &page).Widget();
-  name.Name(input);
   text.setMinimumWidth(text.fontMetrics().horizontalAdvance("255"));
   text.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  grid.addWidget(&name.Widget(), row, kLabelColumn);
-  grid.addWidget(&input, row, kInputColumn);
-  grid.addWidget(&text, row, kInfoColumn);
+  PlaceRow(grid, name, input, text);
 }
 
 QLayout* ColorList(FrmMain& main, TabGroupMirror& group, QWidget& page, MirrorSet& mirrors) {
@@ -58,37 +70,27 @@ QLayout* ColorEditor(FrmMain& main, QWidget& page, MirrorSet& mirrors) {
 }
 
 void BuildPalette(FrmMain& main, TabGroupMirror& group, QWidget& page, MirrorSet& mirrors) {
-  const int gap = page.fontMetrics().height();
-  auto* halves = new QHBoxLayout(&page);
-  halves->setContentsMargins(gap, gap, gap, gap);
-  halves->setSpacing(gap);
+  QHBoxLayout* halves = Halves(page);
   halves->addLayout(ColorList(main, group, page, mirrors), 1);
   halves->addLayout(ColorEditor(main, page, mirrors), 1);
 }
 
 QWidget* PairList(FrmMain& main, QWidget& page, MirrorSet& mirrors) {
-  FrameMirror& frame = mirrors.Add(main.frameColors, &page);
-  QWidget& list = mirrors.Add(main.lstCarColors, &frame.Widget()).Widget();
-  frame.Name(list);
-  auto* column = new QVBoxLayout(&frame.Widget());
-  column->addWidget(&list);
-  column->addWidget(&mirrors.Add(main.cmdRemColor, &frame.Widget()).Widget(), 0, Qt::AlignRight);
-  return &frame.Widget();
+  QWidget* frame = Framed(main.frameColors, main.lstCarColors, page, mirrors);
+  QWidget& remove = mirrors.Add(main.cmdRemColor, frame).Widget();
+  static_cast<QVBoxLayout*>(frame->layout())->addWidget(&remove, 0, Qt::AlignRight);
+  return frame;
 }
 
 void AddPick(Label& label, PickList& pick, Swatch& swatch, QGridLayout& grid, QWidget& frame,
              MirrorSet& mirrors) {
   constexpr int kCharactersShown = 22;
-  const int row = grid.rowCount();
   LabelMirror& name = mirrors.Add(label, &frame);
   PickListMirror& colors = mirrors.Add(pick, &frame);
   colors.ShowColors(ColorInLabel);
   QComboBox& input = colors.Widget();
   input.setMinimumContentsLength(kCharactersShown);
-  name.Name(input);
-  grid.addWidget(&name.Widget(), row, kLabelColumn);
-  grid.addWidget(&input, row, kInputColumn);
-  grid.addWidget(&mirrors.Add(swatch, &frame).Widget(), row, kInfoColumn);
+  PlaceRow(grid, name, input, mirrors.Add(swatch, &frame).Widget());
 }
 
 QWidget* PairAdder(FrmMain& main, QWidget& page, MirrorSet& mirrors) {
@@ -106,10 +108,7 @@ QWidget* PairAdder(FrmMain& main, QWidget& page, MirrorSet& mirrors) {
 }
 
 void BuildPairs(FrmMain& main, QWidget& page, MirrorSet& mirrors) {
-  const int gap = page.fontMetrics().height();
-  auto* halves = new QHBoxLayout(&page);
-  halves->setContentsMargins(gap, gap, gap, gap);
-  halves->setSpacing(gap);
+  QHBoxLayout* halves = Halves(page);
   halves->addWidget(PairList(main, page, mirrors), 1);
   halves->addWidget(PairAdder(main, page, mirrors), 1);
 }

@@ -5,6 +5,8 @@
 #include "screen/MainWindow.h"
 #include "screen/OtherWindows.h"
 
+#include <QVBoxLayout>
+
 namespace wheelwright {
 
 // Everything in one of the three windows, which is empty.
@@ -17,7 +19,20 @@ void BuildHandlingPages(FrmMain& main, TabGroupMirror& group, MirrorSet& mirrors
 void BuildDefinitionPages(FrmMain& main, TabGroupMirror& group, MirrorSet& mirrors);
 void BuildColorPages(FrmMain& main, TabGroupMirror& group, MirrorSet& mirrors);
 
-// A page with nothing but a picture in its frame.
-void BuildPicturePage(QWidget& page, Frame& frame, Picture& picture, MirrorSet& mirrors);
+// The columns of a page; where there is no hint, the value of the input stands there.
+enum PageColumn { kLabelColumn, kInputColumn, kInfoColumn };
+
+// The height of a row with any kind of input, so that rows keep the same distance on all pages.
+int RowHeight(QWidget& page);
+
+// A frame with one input in it, whose name is the frame's caption.
+template <class Input>
+QWidget* Framed(Frame& frame, Input& input, QWidget& parent, MirrorSet& mirrors) {
+  FrameMirror& mirror = mirrors.Add(frame, &parent);
+  QWidget& widget = mirrors.Add(input, &mirror.Widget()).Widget();
+  mirror.Name(widget);
+  (new QVBoxLayout(&mirror.Widget()))->addWidget(&widget);
+  return &mirror.Widget();
+}
 
 }  // namespace wheelwright

@@ -8,19 +8,11 @@
 namespace wheelwright {
 namespace {
 
-QWidget* FramedPick(Frame& frame, PickList& pick, QWidget* window, MirrorSet& mirrors) {
-  FrameMirror& mirror = mirrors.Add(frame, window);
-  QWidget& input = mirrors.Add(pick, &mirror.Widget()).Widget();
-  mirror.Name(input);
-  (new QVBoxLayout(&mirror.Widget()))->addWidget(&input);
-  return &mirror.Widget();
-}
-
 QLayout* LeftColumn(FrmMain& main, QWidget* window, MirrorSet& mirrors) {
   auto* column = new QVBoxLayout;
   column->setSpacing(window->fontMetrics().height() / 2);
-  column->addWidget(FramedPick(main.FrameSprache, main.cmbSprache, window, mirrors));
-  column->addWidget(FramedPick(main.FrameAutos, main.cmbAutos, window, mirrors));
+  column->addWidget(Framed(main.FrameSprache, main.cmbSprache, *window, mirrors));
+  column->addWidget(Framed(main.FrameAutos, main.cmbAutos, *window, mirrors));
   column->addSpacing(column->spacing());
   for (Button* button :
        {&main.cmdOpen, &main.cmdSave, &main.cmdSaveAs, &main.cmdUndo, &main.cmdBackup}) {

@@ -21,17 +21,13 @@ PictureMirror::PictureMirror(Picture& picture, EventEdge& edge, QWidget* frame)
   FollowAll();
 }
 
-void PictureMirror::Follow(Aspect aspect) {
-  if (aspect == Aspect::Content) widget_.Show(plain_.File(), {plain_.Left(), plain_.Top()});
-}
+void PictureMirror::FollowContent() { widget_.Show(plain_.File(), {plain_.Left(), plain_.Top()}); }
 
 SwatchMirror::SwatchMirror(Swatch& swatch, EventEdge& edge, QWidget* parent)
     : MirrorOf(swatch, edge, *new ColorArea(parent)) {
   FollowAll();
 }
 
-void SwatchMirror::Follow(Aspect aspect) {
-  if (aspect == Aspect::Content) widget_.Fill(ColorOf(plain_));
-}
+void SwatchMirror::FollowContent() { widget_.Fill(ColorOf(plain_)); }
 
 }  // namespace wheelwright

@@ -14,7 +14,7 @@ class PictureMirror : public MirrorOf<Picture, PictureArea> {
   PictureMirror(Picture& picture, EventEdge& edge, QWidget* frame);
 
  protected:
-  void Follow(Aspect aspect) override;
+  void FollowContent() override;
 };
 
 class SwatchMirror : public MirrorOf<Swatch, ColorArea> {
@@ -22,7 +22,7 @@ class SwatchMirror : public MirrorOf<Swatch, ColorArea> {
   SwatchMirror(Swatch& swatch, EventEdge& edge, QWidget* parent);
 
  protected:
-  void Follow(Aspect aspect) override;
+  void FollowContent() override;
 };
 
 }  // namespace wheelwright

@@ -52,12 +52,11 @@ void LabelMirror::Name(QWidget& input) {
   spoken_.AddNamed(input);
   input.installEventFilter(new BuddyOfShownInput(widget_));
   if (widget_.buddy() == nullptr || widget_.buddy()->isHidden()) widget_.setBuddy(&input);
-  Follow(Aspect::Content);
+  FollowContent();
 }
 
 // Only a label with a buddy reads marks.
-void LabelMirror::Follow(Aspect aspect) {
-  if (aspect != Aspect::Content) return;
+void LabelMirror::FollowContent() {
   const QString caption = ShownCaption(plain_.Caption());
   widget_.setText(widget_.buddy() == nullptr ? WithoutMarks(caption) : caption);
   spoken_.Say(WithoutMarks(caption));
@@ -68,8 +67,7 @@ FrameMirror::FrameMirror(Frame& frame, EventEdge& edge, QWidget* parent)
   FollowAll();
 }
 
-void FrameMirror::Follow(Aspect aspect) {
-  if (aspect != Aspect::Content) return;
+void FrameMirror::FollowContent() {
   const QString caption = ShownCaption(plain_.Caption());
   widget_.setTitle(caption);
   spoken_.Say(WithoutMarks(caption));
@@ -93,9 +91,7 @@ ButtonMirror::ButtonMirror(Button& button, EventEdge& edge, QWidget* parent)
   FollowAll();
 }
 
-void ButtonMirror::Follow(Aspect aspect) {
-  if (aspect == Aspect::Content) widget_.setText(ShownCaption(plain_.Caption()));
-}
+void ButtonMirror::FollowContent() { widget_.setText(ShownCaption(plain_.Caption())); }
 
 TabGroupMirror::TabGroupMirror(TabGroup& group, EventEdge& edge, QWidget* parent)
     : MirrorOf(group, edge, *new QTabWidget(parent)), spoken_(group.Tabs().size()) {

@@ -41,7 +41,7 @@ class LabelMirror : public MirrorOf<Label, QLabel> {
   void Describe(QWidget& input) { spoken_.AddDescribed(input); }
 
  protected:
-  void Follow(Aspect aspect) override;
+  void FollowContent() override;
 
  private:
   SpokenCaption spoken_;
@@ -55,7 +55,7 @@ class FrameMirror : public MirrorOf<Frame, QGroupBox> {
   void Name(QWidget& input) { spoken_.AddNamed(input); }
 
  protected:
-  void Follow(Aspect aspect) override;
+  void FollowContent() override;
 
  private:
   SpokenCaption spoken_;
@@ -66,9 +66,6 @@ class FrameMirror : public MirrorOf<Frame, QGroupBox> {
 class PictureFrameMirror : public MirrorOf<Frame, QFrame> {
  public:
   PictureFrameMirror(Frame& frame, EventEdge& edge, QWidget* parent);
-
- protected:
-  void Follow(Aspect /*aspect*/) override {}
 };
 
 class ButtonMirror : public MirrorOf<Button, QPushButton> {
@@ -76,7 +73,7 @@ class ButtonMirror : public MirrorOf<Button, QPushButton> {
   ButtonMirror(Button& button, EventEdge& edge, QWidget* parent);
 
  protected:
-  void Follow(Aspect aspect) override;
+  void FollowContent() override;
 };
 
 class TabGroupMirror : public MirrorOf<TabGroup, QTabWidget> {

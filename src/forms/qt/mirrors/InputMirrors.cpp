@@ -64,15 +64,15 @@ TextBoxMirror::TextBoxMirror(TextBox& box, EventEdge& edge, QWidget* parent)
 void TextBoxMirror::Edited(const QString& text) {
   isBeingEdited_ = true;
   ByHand([&] { plain_.EditByHand(InCodePage(text)); });
-  Follow(Aspect::Content);
+  FollowContent();
   isBeingEdited_ = false;
 }
 
 // A text that the program sets is shown from its start; one that a person is typing keeps the
 // cursor behind the same characters, of which the code page may lack some.
-void TextBoxMirror::Follow(Aspect aspect) {
+void TextBoxMirror::FollowContent() {
   const QString text = Shown(plain_.Text());
-  if (aspect != Aspect::Content || widget_.text() == text) return;
+  if (widget_.text() == text) return;
   const QSignalBlocker blocker(widget_);
   const QString before = Shown(InCodePage(widget_.text().left(widget_.cursorPosition())));
   widget_.setText(text);
@@ -86,8 +86,7 @@ CheckBoxMirror::CheckBoxMirror(CheckBox& box, EventEdge& edge, QWidget* parent)
   FollowAll();
 }
 
-void CheckBoxMirror::Follow(Aspect aspect) {
-  if (aspect != Aspect::Content) return;
+void CheckBoxMirror::FollowContent() {
   widget_.setText(ShownCaption(plain_.Caption()));
   widget_.setCheckState(ShownState(plain_.State()));
 }
@@ -100,12 +99,11 @@ ScrollBarMirror::ScrollBarMirror(ScrollBar& bar, EventEdge& edge, QWidget* paren
   FollowAll();
   QObject::connect(&widget_, &QScrollBar::valueChanged, Receiver(), [this](int value) {
     ByHand([&] { plain_.MoveByHand(value); });
-    Follow(Aspect::Content);
+    FollowContent();
   });
 }
 
-void ScrollBarMirror::Follow(Aspect aspect) {
-  if (aspect != Aspect::Content) return;
+void ScrollBarMirror::FollowContent() {
   const QSignalBlocker blocker(widget_);
   widget_.setValue(plain_.Value());
 }

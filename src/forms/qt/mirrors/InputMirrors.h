@@ -15,7 +15,7 @@ class TextBoxMirror : public MirrorOf<TextBox, QLineEdit> {
   TextBoxMirror(TextBox& box, EventEdge& edge, QWidget* parent);
 
  protected:
-  void Follow(Aspect aspect) override;
+  void FollowContent() override;
 
  private:
   void Edited(const QString& text);
@@ -28,7 +28,7 @@ class CheckBoxMirror : public MirrorOf<CheckBox, QCheckBox> {
   CheckBoxMirror(CheckBox& box, EventEdge& edge, QWidget* parent);
 
  protected:
-  void Follow(Aspect aspect) override;
+  void FollowContent() override;
 };
 
 class ScrollBarMirror : public MirrorOf<ScrollBar, QScrollBar> {
@@ -36,7 +36,7 @@ class ScrollBarMirror : public MirrorOf<ScrollBar, QScrollBar> {
   ScrollBarMirror(ScrollBar& bar, EventEdge& edge, QWidget* parent);
 
  protected:
-  void Follow(Aspect aspect) override;
+  void FollowContent() override;
 };
 
 }  // namespace wheelwright

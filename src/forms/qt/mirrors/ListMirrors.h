@@ -1,12 +1,15 @@
-// The mirrors of the lists of rows: pick list, list box and the list box with marks.
+// The mirrors of the lists of rows: pick list, list box, the list box with marks, and the list in
+// report form.
 #pragma once
 
 #include "forms/qt/mirrors/Mirror.h"
 #include "forms/qt/mirrors/Rows.h"
 #include "forms/qt/widgets/Swatches.h"
+#include "screen/Controls.h"
 #include "screen/Lists.h"
 
 #include <QComboBox>
+#include <QTreeView>
 
 namespace wheelwright {
 
@@ -61,6 +64,14 @@ class MarkListMirror : public RowsMirror<MarkList, RowView> {
   void SelectionChanged();
 
   bool isFollowing_ = false;
+};
+
+class ReportListMirror : public MirrorOf<ReportList, QTreeView> {
+ public:
+  ReportListMirror(ReportList& list, EventEdge& edge, QWidget* parent);
+
+ protected:
+  void Follow(Aspect aspect) override;
 };
 
 }  // namespace wheelwright

@@ -23,8 +23,12 @@ class Mirror {
   QWidget& Widget() const { return widget_; }
 
  protected:
-  // Brings the widget to what the plain control says; the state has been seen to already.
-  virtual void Follow(Aspect aspect) = 0;
+  // Brings the widget to what the plain control says; the state has been seen to already. Of most
+  // controls nothing but the content changes.
+  virtual void Follow(Aspect aspect) {
+    if (aspect == Aspect::Content) FollowContent();
+  }
+  virtual void FollowContent() {}
 
   void FollowAll();
   // Does to the plain control what a person did to the widget.

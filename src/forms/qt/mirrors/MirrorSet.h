@@ -6,7 +6,6 @@
 #include "forms/qt/mirrors/CaptionMirrors.h"
 #include "forms/qt/mirrors/InputMirrors.h"
 #include "forms/qt/mirrors/ListMirrors.h"
-#include "forms/qt/mirrors/ReportListMirror.h"
 
 #include <map>
 #include <memory>

@@ -1,5 +1,4 @@
-#include "forms/qt/mirrors/ReportListMirror.h"
-
+#include "forms/qt/mirrors/ListMirrors.h"
 #include "forms/qt/widgets/ShownText.h"
 
 #include <algorithm>
