@@ -9,6 +9,19 @@ bool IsCharacter(char32_t number, std::size_t length) {
   return !tooLong && !halfOfPair && number <= 0x10FFFF;
 }
 
+// The character in the first bytes of a text, kNoCharacter if they are none.
+char32_t CharacterIn(std::string_view utf8, std::size_t length) {
+  if (length == 0 || length > utf8.size()) return kNoCharacter;
+  const auto lead = static_cast<unsigned char>(utf8.front());
+  char32_t character = length == 1 ? lead : lead & (0x7FU >> length);
+  for (const char next : utf8.substr(1, length - 1)) {
+    const auto byte = static_cast<unsigned char>(next);
+    if ((byte & 0xC0U) != 0x80U) return kNoCharacter;
+    character = (character << 6U) | (byte & 0x3FU);
+  }
+  return IsCharacter(character, length) ? character : kNoCharacter;
+}
+
 char Continuation(char32_t bits) { return static_cast<char>(0x80U | (bits & 0x3FU)); }
 
 }  // namespace
@@ -21,24 +34,8 @@ char32_t TakeCharacter(std::string_view& utf8) {
                              : lead < 0xF0 ? 3
                              : lead < 0xF5 ? 4
                                            : 0;
-  if (length == 0 || length > utf8.size()) {
-    utf8.remove_prefix(1);
-    return kNoCharacter;
-  }
-  char32_t character = length == 1 ? lead : lead & (0x7FU >> length);
-  for (std::size_t i = 1; i < length; ++i) {
-    const auto byte = static_cast<unsigned char>(utf8[i]);
-    if ((byte & 0xC0U) != 0x80U) {
-      utf8.remove_prefix(1);
-      return kNoCharacter;
-    }
-    character = (character << 6U) | (byte & 0x3FU);
-  }
-  if (!IsCharacter(character, length)) {
-    utf8.remove_prefix(1);
-    return kNoCharacter;
-  }
-  utf8.remove_prefix(length);
+  const char32_t character = CharacterIn(utf8, length);
+  utf8.remove_prefix(character == kNoCharacter ? 1 : length);
   return character;
 }
 

@@ -5,15 +5,6 @@
 #include <string>
 
 namespace wheelwright {
-namespace {
-
-void OpenWithShell(Session& session, const std::string& file) {
-  session.desktop.SetPointer(Pointer::Hourglass);
-  session.desktop.OpenWithShell(file);
-  session.desktop.SetPointer(Pointer::Normal);
-}
-
-}  // namespace
 
 void OpenManual(Session& session) {
   const std::string manual = session.vars.AppPath + "Anleitung.htm";
@@ -21,22 +12,18 @@ void OpenManual(Session& session) {
     session.desktop.ShowError(Message(session, kManualIsMissing));
     return;
   }
-  OpenWithShell(session, manual);
+  session.desktop.SetPointer(Pointer::Hourglass);
+  session.desktop.OpenWithShell(manual);
+  session.desktop.SetPointer(Pointer::Normal);
 }
 
 void ShowAbout(Session& session) {
   const std::string homePage = kHomePage;
-  session.desktop.ShowInformation(std::string(kProgramName) + " V" + VersionText() +
-                                  "\r\n"
-                                  "\r\n"
-                                  "Written by the Wheelwright project\r\n"
-                                  "Contact: " +
-                                  homePage + "contact\r\n" + "Home page: " + homePage +
-                                  "\r\n"
-                                  "\r\n"
-                                  "Manual and corrections: the Wheelwright project\r\n"
-                                  "Contact: " +
-                                  homePage + "manual");
+  session.desktop.ShowInformation(
+      std::string(kProgramName) + " V" + VersionText() +
+      "\r\n\r\nWritten by the Wheelwright project\r\nContact: " + homePage +
+      "contact\r\nHome page: " + homePage +
+      "\r\n\r\nManual and corrections: the Wheelwright project\r\nContact: " + homePage + "manual");
 }
 
 }  // namespace wheelwright

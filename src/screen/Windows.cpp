@@ -1,4 +1,4 @@
-// The windows as they are built: design captions, fixed entries, frames and pages, first states.
+// The windows as they are built: fixed entries, frames and pages, first states.
 #include "core/CodePage.h"
 #include "screen/Fields.h"
 #include "screen/MainWindow.h"
@@ -19,6 +19,10 @@ void AddEntries(PickList& list, std::span<const char* const> words) {
   for (const char* word : words) list.AddRow(FromUnicode(word));
 }
 
+void PutAll(std::initializer_list<Control*> controls, Control& container, int page = 0) {
+  for (Control* control : controls) control->PutInto(container, page);
+}
+
 template <class Fields>
 void BuildFields(FrmMain& m, const Fields& fields, TabGroup& group) {
   for (const auto& field : fields) {
@@ -35,11 +39,9 @@ void BuildHandlingTabs(FrmMain& m) {
   for (CheckBox& flag : m.chkFlag) flag.PutInto(m.SSTab1, kFlagsTab);
   m.picFrame.PutInto(m.SSTab1, kPictureTab);
   m.picCar.PutInto(m.picFrame);
-  for (Control* control :
-       std::initializer_list<Control*>{&m.cmdNewCar, &m.cmdDeleteCar, &m.cmdImportCar,
-                                       &m.cmdExportCar, &m.frameAuthor, &m.frameDate}) {
-    control->PutInto(m.SSTab1, kMiscTab);
-  }
+  PutAll({&m.cmdNewCar, &m.cmdDeleteCar, &m.cmdImportCar, &m.cmdExportCar, &m.frameAuthor,
+          &m.frameDate},
+         m.SSTab1, kMiscTab);
   m.txtAuthor.PutInto(m.frameAuthor);
   m.txtDate.PutInto(m.frameDate);
   m.cmdNewCar.SetVisible(false);
@@ -58,21 +60,16 @@ void BuildDefinitionTabs(FrmMain& m) {
 }
 
 void BuildColorTabs(FrmMain& m) {
-  for (Control* control : std::initializer_list<Control*>{
-           &m.lstColors, &m.cmdNewColor, &m.cmdDeleteColor, &m.lblColorName, &m.txtColorName,
-           &m.lblRot, &m.HScroll1, &m.lblRotWert, &m.lblGrün, &m.HScroll2, &m.lblGrünWert,
-           &m.lblBlau, &m.HScroll3, &m.lblBlauWert, &m.picFarbe}) {
-    control->PutInto(m.SSTab3, kPaletteTab);
-  }
+  PutAll({&m.lstColors, &m.cmdNewColor, &m.cmdDeleteColor, &m.lblColorName, &m.txtColorName,
+          &m.lblRot, &m.HScroll1, &m.lblRotWert, &m.lblGrün, &m.HScroll2, &m.lblGrünWert,
+          &m.lblBlau, &m.HScroll3, &m.lblBlauWert, &m.picFarbe},
+         m.SSTab3, kPaletteTab);
   m.frameColors.PutInto(m.SSTab3, kPairsTab);
-  m.lstCarColors.PutInto(m.frameColors);
-  m.cmdRemColor.PutInto(m.frameColors);
+  PutAll({&m.lstCarColors, &m.cmdRemColor}, m.frameColors);
   m.frameAddColors.PutInto(m.SSTab3, kPairsTab);
-  for (Control* control :
-       std::initializer_list<Control*>{&m.lblColor1, &m.cmbColor1, &m.picColor1, &m.lblColor2,
-                                       &m.cmbColor2, &m.picColor2, &m.cmdAddColor}) {
-    control->PutInto(m.frameAddColors);
-  }
+  PutAll({&m.lblColor1, &m.cmbColor1, &m.picColor1, &m.lblColor2, &m.cmbColor2, &m.picColor2,
+          &m.cmdAddColor},
+         m.frameAddColors);
 }
 
 }  // namespace
