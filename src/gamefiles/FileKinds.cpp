@@ -13,20 +13,20 @@
 namespace wheelwright {
 namespace {
 
-template <class Record>
-void CopyTable(Table<Record>& table, Table<Record>& snapshot, Snapshots way) {
+template <auto kTable, auto kSnapshot>
+void Copy(Vars& vars, Snapshots way) {
   if (way == Snapshots::Take) {
-    snapshot = table;
+    vars.*kSnapshot = vars.*kTable;
   } else {
-    table = snapshot;
+    vars.*kTable = vars.*kSnapshot;
   }
 }
 
-template <class Record>
-void ListKeys(PickList& list, const Table<Record>& table, std::string Record::*key) {
+template <auto kTable, auto kKey>
+void ListKeys(Session& session) {
   std::vector<std::string> keys;
-  for (const Record& record : table.Walk()) keys.push_back(record.*key);
-  list.AddRows(std::move(keys));
+  for (const auto& record : (session.vars.*kTable).Walk()) keys.push_back(record.*kKey);
+  session.main.cmbAutos.AddRows(std::move(keys));
 }
 
 void ListColors(ListBox& list, const Table<ColorEntry>& colors, int count) {
@@ -38,8 +38,6 @@ void ListColors(ListBox& list, const Table<ColorEntry>& colors, int count) {
 }
 
 // The handling file
-
-void CopyCars(Vars& vars, Snapshots way) { CopyTable(vars.Cars, vars.Kopie_Cars, way); }
 
 void TakeHandling(Session& session, HandlingFile& file) {
   session.main.txtAuthor.SetText(std::move(file.author));
@@ -55,7 +53,7 @@ void TakeHandling(Session& session, HandlingFile& file) {
 std::optional<int> LoadHandling(Session& session, std::string_view text) {
   HandlingFile file;
   ReadAndTake([&] { ReadHandling(text, file); }, [&] { TakeHandling(session, file); });
-  CopyCars(session.vars, Snapshots::PutBack);
+  session.vars.Cars = session.vars.Kopie_Cars;
   return std::nullopt;
 }
 
@@ -68,13 +66,7 @@ std::string RewrittenHandling(Session& session, const std::string& /*target*/) {
                         .created = main.txtDate.Text()});
 }
 
-void ListCars(Session& session) {
-  ListKeys(session.main.cmbAutos, session.vars.Cars, &Car::CarName);
-}
-
 // The definition file
-
-void CopyIdes(Vars& vars, Snapshots way) { CopyTable(vars.Ides, vars.Kopie_Ides, way); }
 
 std::optional<int> LoadDefinitions(Session& session, std::string_view text) {
   DefinitionFile file;
@@ -82,7 +74,7 @@ std::optional<int> LoadDefinitions(Session& session, std::string_view text) {
               [&] { session.vars.Kopie_Ides = std::move(file.records); });
   if (file.damagedLine) return file.damagedLine;
   session.main.cmbAutos.AddRows(std::move(file.names));
-  CopyIdes(session.vars, Snapshots::PutBack);
+  session.vars.Ides = session.vars.Kopie_Ides;
   return std::nullopt;
 }
 
@@ -90,18 +82,11 @@ std::string RewrittenDefinitions(Session& session, const std::string& /*target*/
   return WriteDefinitions(session.files.Read(session.vars.CurrentFile), session.vars.Ides);
 }
 
-void ListIdes(Session& session) {
-  ListKeys(session.main.cmbAutos, session.vars.Ides, &IdeEntry::HandlingID);
-}
-
 // The colour file
 
-void CopyPalette(Vars& vars, Snapshots way) { CopyTable(vars.Colors, vars.Kopie_Colors, way); }
-void CopyPairs(Vars& vars, Snapshots way) { CopyTable(vars.CarColors, vars.Kopie_CarColors, way); }
-
 void CopyColors(Vars& vars, Snapshots way) {
-  CopyPalette(vars, way);
-  CopyPairs(vars, way);
+  Copy<&Vars::Colors, &Vars::Kopie_Colors>(vars, way);
+  Copy<&Vars::CarColors, &Vars::Kopie_CarColors>(vars, way);
 }
 
 void LoadPalette(Session& session, std::string_view text) {
@@ -111,7 +96,7 @@ void LoadPalette(Session& session, std::string_view text) {
                 ListColors(session.main.lstColors, palette.colors, palette.count);
                 session.vars.Kopie_Colors = std::move(palette.colors);
               });
-  CopyPalette(session.vars, Snapshots::PutBack);
+  session.vars.Colors = session.vars.Kopie_Colors;
 }
 
 std::optional<int> LoadColors(Session& session, std::string_view text) {
@@ -122,7 +107,7 @@ std::optional<int> LoadColors(Session& session, std::string_view text) {
   if (pairs.damagedLine) return pairs.damagedLine;
   session.main.cmbAutos.AddRows(std::move(pairs.names));
   FillColorPickLists(session.main);
-  CopyPairs(session.vars, Snapshots::PutBack);
+  session.vars.CarColors = session.vars.Kopie_CarColors;
   return std::nullopt;
 }
 
@@ -141,7 +126,7 @@ std::string RewrittenColors(Session& session, const std::string& target) {
 void ListPaletteAndPairs(Session& session) {
   FrmMain& main = session.main;
   ListColors(main.lstColors, session.vars.Colors, session.vars.Colors.Count());
-  ListKeys(main.cmbAutos, session.vars.CarColors, &CarColorEntry::ModelName);
+  ListKeys<&Vars::CarColors, &CarColorEntry::ModelName>(session);
   main.cmbColor1.Clear();
   main.cmbColor2.Clear();
   FillColorPickLists(main);
@@ -163,8 +148,8 @@ const std::array<FileKind, 3> kFileKinds = {{
      .tabs = &FrmMain::SSTab1,
      .load = LoadHandling,
      .rewritten = RewrittenHandling,
-     .copy = CopyCars,
-     .fillLists = ListCars},
+     .copy = Copy<&Vars::Cars, &Vars::Kopie_Cars>,
+     .fillLists = ListKeys<&Vars::Cars, &Car::CarName>},
     {.type = kDefinitionFile,
      .filterIndex = 2,
      .ending = "ide",
@@ -174,8 +159,8 @@ const std::array<FileKind, 3> kFileKinds = {{
      .tabs = &FrmMain::SSTab2,
      .load = LoadDefinitions,
      .rewritten = RewrittenDefinitions,
-     .copy = CopyIdes,
-     .fillLists = ListIdes},
+     .copy = Copy<&Vars::Ides, &Vars::Kopie_Ides>,
+     .fillLists = ListKeys<&Vars::Ides, &IdeEntry::HandlingID>},
     {.type = kColorFile,
      .filterIndex = 3,
      .ending = "dat",
