@@ -2,7 +2,6 @@
 #pragma once
 
 #include "bench/DataFiles.h"
-#include "core/DiskFiles.h"
 #include "forms/Wiring.h"
 
 #include <filesystem>
@@ -13,12 +12,6 @@
 
 namespace wheelwright::bench {
 
-// The folder of the language files, and where the data files may lie.
-struct Folders {
-  std::string program;
-  std::string data;
-};
-
 // Takes what is written to it, and keeps nothing.
 struct Nowhere : std::streambuf {
   int_type overflow(int_type character) override { return traits_type::not_eof(character); }
@@ -28,10 +21,10 @@ struct Nowhere : std::streambuf {
 template <class Screen>
 class Bench {
  public:
-  Bench(const DataFile& data, int vehicles, const Folders& folders)
-      : data_(data), path_(folders.data + "/" + data.name) {
-    DiskFiles().Write(path_, data.text(vehicles));
-    StartUp(screen_.stage.session, folders.program);
+  // The file must be there; the folder is that of the language files.
+  Bench(const DataFile& data, std::string path, const std::string& programFolder)
+      : data_(data), path_(std::move(path)) {
+    StartUp(screen_.stage.session, programFolder);
     Main().SetVisible(true);
   }
 

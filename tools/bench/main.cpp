@@ -1,6 +1,7 @@
 // Times what a person does with files of 500, 4,000 and 32,000 vehicles, without and with real
 // windows.
 #include "bench/Bench.h"
+#include "core/DiskFiles.h"
 #include "replay/PlainScreen.h"
 #include "replay/RealScreen.h"
 #include "replay/Toolkit.h"
@@ -9,6 +10,12 @@
 
 namespace wheelwright::bench {
 namespace {
+
+// The folder of the language files, and where the data files may lie.
+struct Folders {
+  std::string program;
+  std::string data;
+};
 
 using replay::PlainScreen;
 using replay::RealScreen;
@@ -26,7 +33,9 @@ template <class Screen>
 void Time(benchmark::State& state, const DataFile& data, Action<Screen> action,
           const Folders& folders) {
   const auto vehicles = static_cast<int>(state.range(0));
-  Bench<Screen> bench(data, vehicles, folders);
+  const std::string path = folders.data + "/" + data.name;
+  DiskFiles().Write(path, data.text(vehicles));
+  Bench<Screen> bench(data, path, folders.program);
   bench.Open();
   for (auto _ : state) (bench.*action)();
   state.SetComplexityN(vehicles);
