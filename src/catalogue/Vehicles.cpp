@@ -12,7 +12,7 @@ namespace {
 void FillBlankVehicle(Car& car, const std::string& name) {
   for (const HandlingToken& token : kHandlingTokens) car.*token.value = token.missing;
   car.CarName = name;
-  car.SuspensionAntiDive.clear();
+  car.SuspensionAntiDive = {};
   car.ModelFlags = "0000";
 }
 

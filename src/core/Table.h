@@ -86,8 +86,8 @@ class Table {
   // of it before may belong to another table's copy from then on.
   Record& At(int index) {
     CheckIndex(index);
-    index_.MayChange(index);
     std::shared_ptr<Record>& slot = slots_[static_cast<std::size_t>(index)];
+    index_.MayChange(index, *slot);
     if (slot.use_count() > 1) slot = std::make_shared<Record>(*slot);
     return *slot;
   }
@@ -100,12 +100,12 @@ class Table {
 
   // The index of the first record whose key equals the text byte for byte, kNone if none does;
   // failure 9 while the table is unallocated. Takes no walk over the table but the first time.
-  int First(std::string Record::*key, const std::string& text) const {
+  int First(FieldText Record::*key, std::string_view text) const {
     return index_.First(Walk(), key, text);
   }
 
   // The index of the next record with that key, good until the next search.
-  int Next(int index) const { return index_.Next(index); }
+  int Next(int index) const { return index_.Next(Walk(), index); }
 
   // All records in order; failure 9 while the table is unallocated.
   RecordWalk<Record> Walk() const {

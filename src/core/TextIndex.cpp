@@ -1,24 +1,34 @@
 #include "core/TextIndex.h"
 
+#include <bit>
+
 namespace wheelwright {
 
+void TextIndex::Clear() {
+  entries_.clear();
+  buckets_.clear();
+}
+
 void TextIndex::Reserve(std::size_t texts) {
-  chains_.reserve(texts);
-  next_.reserve(texts);
+  if (texts <= buckets_.size()) return;
+  entries_.reserve(texts);
+  buckets_.assign(std::bit_ceil(texts), Bucket());
+  for (int position = 0; position < Count(); ++position) Link(position);
 }
 
 void TextIndex::Add(std::string_view text) {
-  const int position = Count();
-  next_.push_back(kNone);
-  const auto [found, isNew] = chains_.try_emplace(text, Chain{position, position});
-  if (isNew) return;
-  next_[static_cast<std::size_t>(found->second.last)] = position;
-  found->second.last = position;
+  if (entries_.size() == buckets_.size()) Reserve(2 * entries_.size() + 1);
+  entries_.push_back({HashOf(text), kNone});
+  Link(Count() - 1);
 }
 
-int TextIndex::First(std::string_view text) const {
-  const auto found = chains_.find(text);
-  return found == chains_.end() ? kNone : found->second.first;
+void TextIndex::Link(int position) {
+  Entry& entry = entries_[static_cast<std::size_t>(position)];
+  Bucket& bucket = buckets_[entry.hash & (buckets_.size() - 1)];
+  (bucket.first == kNone ? bucket.first : entries_[static_cast<std::size_t>(bucket.last)].next) =
+      position;
+  bucket.last = position;
+  entry.next = kNone;
 }
 
 }  // namespace wheelwright

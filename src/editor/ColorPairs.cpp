@@ -12,7 +12,7 @@ namespace wheelwright {
 namespace {
 
 // The names by Index; of two colours with the same Index the later one counts.
-using NamesByIndex = std::unordered_map<std::int16_t, const std::string*>;
+using NamesByIndex = std::unordered_map<std::int16_t, const FieldText*>;
 
 void LookUp(const NamesByIndex& names, std::int16_t index, std::string& name) {
   if (const auto found = names.find(index); found != names.end()) name = *found->second;

@@ -51,7 +51,7 @@ void ShowCode(Session& session, const FieldRow<Car>& field, PickList& list) {
 // The box has three states; any other text shows an unticked box and stays in its field, which the
 // box's handler would overwrite.
 void ShowABS(Session& session) {
-  std::string& abs = session.vars.ShownCar().ABS;
+  FieldText& abs = session.vars.ShownCar().ABS;
   if (abs.empty()) abs = "0";
   const std::string text = abs;
   const bool isState = text == "0" || text == "1" || text == "2";

@@ -53,12 +53,12 @@ std::string GetFlagDigit(const FrmMain& main, int group) {
 void StoreFlag(Session& session, int flag) {
   Vars& vars = session.vars;
   const int group = (flag - 1) / kFlagsOfAGroup + 1;
-  std::string& flags = vars.ShownCar().ModelFlags;
+  const std::string flags = vars.ShownCar().ModelFlags;
   // The lengths of the two parts hang on the group alone, whatever the length of the text.
   const std::size_t left = kDigits - static_cast<std::size_t>(group);
   const std::size_t right = std::min(flags.size(), static_cast<std::size_t>(group) - 1);
-  flags = flags.substr(0, left) + GetFlagDigit(session.main, group) +
-          flags.substr(flags.size() - right);
+  vars.ShownCar().ModelFlags = flags.substr(0, left) + GetFlagDigit(session.main, group) +
+                               flags.substr(flags.size() - right);
   if (flag != kFlagWithoutMark) vars.IsSaved = false;
 }
 

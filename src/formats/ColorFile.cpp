@@ -24,12 +24,13 @@ void TakeColor(std::string_view line, std::int16_t index, ColorEntry& color) {
 // Half a pair reaches the conversion of a field that isn't there, which fails.
 void TakePairs(CommaLine& line, CarColorEntry& entry) {
   const int count = line.CountCommaFields();
+  entry.Color1.reserve(static_cast<std::size_t>(count / 2));
+  entry.Color2.reserve(static_cast<std::size_t>(count / 2));
   for (int i = 0; i <= count - 2; i += 2) {
-    const auto pair = static_cast<std::size_t>(i / 2);
-    entry.Color1.resize(pair + 1);
-    entry.Color2.resize(pair + 1);
-    entry.Color1[pair] = ToInteger16(line.GetCommaField(i + 1));
-    entry.Color2[pair] = ToInteger16(line.GetCommaField(i + 2));
+    entry.Color1.push_back(0);
+    entry.Color2.push_back(0);
+    entry.Color1.back() = ToInteger16(line.GetCommaField(i + 1));
+    entry.Color2.back() = ToInteger16(line.GetCommaField(i + 2));
   }
 }
 

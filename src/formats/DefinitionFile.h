@@ -16,7 +16,7 @@ namespace wheelwright {
 
 struct DefinitionValue {
   const char* name;  // as the record calls it
-  std::string IdeEntry::*value;
+  FieldText IdeEntry::*value;
   std::string_view separator;       // what is written behind it
   bool tabBehindShortText = false;  // one tab more behind fewer than seven characters
 };

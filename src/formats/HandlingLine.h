@@ -17,7 +17,7 @@ enum class TokenCheck { None, MustBeNumeric, MustNotBeNumeric };
 
 struct HandlingToken {
   const char* name;  // as the record calls it
-  std::string Car::*value;
+  FieldText Car::*value;
   const char* missing;  // what a line that is too short gives
   TokenCheck check;
 };
@@ -28,9 +28,8 @@ extern const std::array<HandlingToken, kTokensOfAVehicle> kHandlingTokens;
 
 // Something wrong with a line. It stops no reading.
 struct LineProblem {
-  std::string vehicle;  // token 0
-  std::string Car::*field =
-      nullptr;  // whose token fails its check; null: the line hasn't 33 tokens
+  std::string vehicle;              // token 0
+  FieldText Car::*field = nullptr;  // whose token fails its check; null: the line hasn't 33 tokens
   TokenCheck failed = TokenCheck::None;
   int tokens = 0;  // how many the line has
 

@@ -13,6 +13,12 @@ std::size_t PairOf(char first, char second) {
          static_cast<unsigned char>(second);
 }
 
+auto TextsOf(const std::vector<std::string>& texts) {
+  return [&texts](int position) -> std::string_view {
+    return texts[static_cast<std::size_t>(position)];
+  };
+}
+
 }  // namespace
 
 NameIndex::NameIndex(const std::vector<std::string>& names) : names_(names) {
@@ -40,10 +46,11 @@ void NameIndex::FoldNames() {
 
 const std::vector<NameHit>& NameIndex::Beginning(std::string_view line) {
   hits_.clear();
+  const auto nameAt = TextsOf(names_);
   for (const std::size_t length : lengths_) {
     if (length > line.size()) break;
-    for (int at = exact_.First(line.substr(0, length)); at != TextIndex::kNone;
-         at = exact_.Next(at)) {
+    for (int at = exact_.First(line.substr(0, length), nameAt); at != TextIndex::kNone;
+         at = exact_.Next(at, nameAt)) {
       hits_.push_back({at, true});
     }
   }
@@ -77,10 +84,12 @@ const std::vector<NameHit>& NameIndex::Anywhere(std::string_view line) {
 }
 
 void NameIndex::AddFolded(std::string_view part) {
-  const int first = folded_.First(part);
+  const auto foldedAt = TextsOf(foldedNames_);
+  const int first = folded_.First(part, foldedAt);
   if (first == TextIndex::kNone || alreadyHit_[static_cast<std::size_t>(first)]) return;
   alreadyHit_[static_cast<std::size_t>(first)] = true;
-  for (int at = first; at != TextIndex::kNone; at = folded_.Next(at)) hits_.push_back({at, false});
+  for (int at = first; at != TextIndex::kNone; at = folded_.Next(at, foldedAt))
+    hits_.push_back({at, false});
 }
 
 void NameIndex::SortHits() {

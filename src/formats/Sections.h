@@ -59,13 +59,14 @@ void ReadSection(std::string_view text, const SectionForm& form, RecordSection<R
   section.records.Reset();
   Counter16 records;
   Counter16 lineNumber;
+  CommaLine fields;
   bool inSection = false;
   for (const std::string_view rawLine : Lines(text)) {
     lineNumber.Step();
     const std::string_view line = BeforeMark(rawLine, '#');
     if (line.starts_with("end")) inSection = false;
     if (inSection && !line.empty()) {
-      CommaLine fields(line);
+      fields.Take(line);
       if (fields.CountCommaFields() < form.mandatoryFields) {
         section.damagedLine = lineNumber.Value();
         return;

@@ -14,14 +14,14 @@ bool IsBlankOrTab(char byte) { return byte == ' ' || byte == '\t'; }
 
 }  // namespace
 
-CommaLine::CommaLine(std::string_view line) : cleaned_(line) {
-  std::erase_if(cleaned_, IsBlankOrTab);
-  length_ = cleaned_.size();
-  const auto commas = static_cast<std::size_t>(std::count(cleaned_.begin(), cleaned_.end(), ','));
-  commas_.reserve(std::min(commas, kMostCommas));
-  for (std::size_t at = cleaned_.find(','); at != std::string::npos && commas_.size() < kMostCommas;
-       at = cleaned_.find(',', at + 1)) {
-    commas_.push_back(at);
+void CommaLine::Take(std::string_view line) {
+  cleaned_.resize(line.size());
+  commas_.clear();
+  length_ = 0;
+  for (const char byte : line) {
+    if (IsBlankOrTab(byte)) continue;
+    if (byte == ',' && commas_.size() < kMostCommas) commas_.push_back(length_);
+    cleaned_[length_++] = byte;
   }
 }
 
@@ -38,7 +38,7 @@ std::string_view CommaLine::GetCommaField(int index) {
   const std::size_t begin = place == 0 ? 0 : commas_[place - 1] + 1;
   if (begin > length_) return {};
   const std::size_t end = place < commas_.size() ? commas_[place] : length_;
-  return std::string_view(cleaned_).substr(begin, std::min(end, length_) - begin);
+  return {cleaned_.data() + begin, std::min(end, length_) - begin};
 }
 
 SpaceLine::SpaceLine(std::string_view line) {

@@ -16,7 +16,11 @@ namespace wheelwright {
 // sees what the earlier ones left. Constant time for each call.
 class CommaLine {
  public:
-  explicit CommaLine(std::string_view line);
+  CommaLine() = default;
+  explicit CommaLine(std::string_view line) { Take(line); }
+
+  // Becomes another line, in the room of the one before.
+  void Take(std::string_view line);
 
   // The number of fields. A comma at the end counts as one more, empty field; an empty line has
   // none. Failure 6 past 32,767.
@@ -27,7 +31,7 @@ class CommaLine {
 
  private:
   std::string cleaned_;              // as it was before any comma went
-  std::size_t length_;               // what the calls so far have left of it
+  std::size_t length_ = 0;           // what the calls so far have left of it
   std::vector<std::size_t> commas_;  // the positions of all commas, ascending
 };
 

@@ -8,7 +8,7 @@ namespace wheelwright {
 namespace {
 
 // Empty for a problem with the whole line and for a field that isn't named in problems.
-std::string CaptionOf(const FrmMain& main, std::string Car::*value) {
+std::string CaptionOf(const FrmMain& main, FieldText Car::*value) {
   const auto field = std::find_if(kHandlingFields.begin(), kHandlingFields.end(),
                                   [&](const FieldRow<Car>& row) { return row.value == value; });
   const bool isNamed = field != kHandlingFields.end() && field->isNamedInProblems;

@@ -26,7 +26,7 @@ using FieldInput = std::variant<TextField FrmMain::*, PickField FrmMain::*, Tick
 
 template <class Record>
 struct FieldRow {
-  std::string Record::*value;
+  FieldText Record::*value;
   FieldInput input;
   int tab = 0;
   int tabRow = 0;  // counted from 0

@@ -31,32 +31,32 @@ void Delete(TestSession& test, bool yes = true) {
 Car BlankVehicle(const std::string& name) {
   Car car;
   car.CarName = name;
-  for (std::string Car::*field : {&Car::Mass,
-                                  &Car::DimensionX,
-                                  &Car::DimensionY,
-                                  &Car::DimensionZ,
-                                  &Car::CenterOfMassX,
-                                  &Car::CenterOfMassY,
-                                  &Car::CenterOfMassZ,
-                                  &Car::TractionMultiplier,
-                                  &Car::TractionLoss,
-                                  &Car::TractionBias,
-                                  &Car::MaxVelocity,
-                                  &Car::EngineAcceleration,
-                                  &Car::BrakeDeceleration,
-                                  &Car::BrakeBias,
-                                  &Car::SteeringLock,
-                                  &Car::SuspensionForceLevel,
-                                  &Car::SuspensionDampingLevel,
-                                  &Car::SeatOffset,
-                                  &Car::CollisionDamageMultiplier,
-                                  &Car::suspension_upper_limit,
-                                  &Car::suspension_lower_limit,
-                                  &Car::SuspensionBias}) {
+  for (FieldText Car::*field : {&Car::Mass,
+                                &Car::DimensionX,
+                                &Car::DimensionY,
+                                &Car::DimensionZ,
+                                &Car::CenterOfMassX,
+                                &Car::CenterOfMassY,
+                                &Car::CenterOfMassZ,
+                                &Car::TractionMultiplier,
+                                &Car::TractionLoss,
+                                &Car::TractionBias,
+                                &Car::MaxVelocity,
+                                &Car::EngineAcceleration,
+                                &Car::BrakeDeceleration,
+                                &Car::BrakeBias,
+                                &Car::SteeringLock,
+                                &Car::SuspensionForceLevel,
+                                &Car::SuspensionDampingLevel,
+                                &Car::SeatOffset,
+                                &Car::CollisionDamageMultiplier,
+                                &Car::suspension_upper_limit,
+                                &Car::suspension_lower_limit,
+                                &Car::SuspensionBias}) {
     car.*field = "0.0";
   }
-  for (std::string Car::*field : {&Car::PercentSubmerged, &Car::GearCount, &Car::ABS,
-                                  &Car::MonetaryValue, &Car::FrontLights, &Car::RearLights}) {
+  for (FieldText Car::*field : {&Car::PercentSubmerged, &Car::GearCount, &Car::ABS,
+                                &Car::MonetaryValue, &Car::FrontLights, &Car::RearLights}) {
     car.*field = "0";
   }
   car.DriveType = "F";

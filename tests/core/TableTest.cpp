@@ -106,7 +106,7 @@ TEST(TableTest, ACopySharesNothingWithItsModel) {
   Table<CarColorEntry> copy = model;
   copy.At(0).Color1[0] = 77;
   copy.At(0).Color2.push_back(78);
-  copy.At(0).ModelName += "x";
+  copy.At(0).ModelName = "busx";
   copy.ExtendTo(1);
   EXPECT_EQ(model.Count(), 1);
   EXPECT_EQ(model.At(0), (CarColorEntry{"bus", {1, 2}, {3, 4}}));

@@ -2,47 +2,64 @@
 
 #include <gtest/gtest.h>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace wheelwright::testing {
 namespace {
 
-// The positions of a text, as the index tells them.
-std::vector<int> PositionsOf(const std::string& text, const TextIndex& index) {
-  std::vector<int> positions;
-  for (int at = index.First(text); at != TextIndex::kNone; at = index.Next(at))
-    positions.push_back(at);
-  return positions;
-}
+using Texts = std::vector<std::string>;
+using Positions = std::vector<int>;
 
-TextIndex IndexOf(const std::vector<std::string>& texts) {
+struct IndexedTexts {
+  explicit IndexedTexts(Texts itsTexts) : texts(std::move(itsTexts)) {
+    for (const std::string& text : texts) index.Add(text);
+  }
+
+  // The positions of a text, as the index tells them.
+  Positions Of(const std::string& text) const {
+    const auto textAt = [this](int position) {
+      return std::string_view(texts.at(static_cast<std::size_t>(position)));
+    };
+    Positions positions;
+    for (int at = index.First(text, textAt); at != TextIndex::kNone; at = index.Next(at, textAt))
+      positions.push_back(at);
+    return positions;
+  }
+
+  Texts texts;
   TextIndex index;
-  for (const std::string& text : texts) index.Add(text);
-  return index;
-}
+};
 
 TEST(TextIndexTest, AnEmptyIndexHoldsNothing) {
-  const TextIndex index;
-  EXPECT_EQ(index.Count(), 0);
-  EXPECT_EQ(index.First(""), TextIndex::kNone);
+  const IndexedTexts none({});
+  EXPECT_EQ(none.index.Count(), 0);
+  EXPECT_EQ(none.Of(""), Positions());
 }
 
 TEST(TextIndexTest, AllPositionsOfATextComeInOrder) {
-  const std::vector<std::string> texts = {"BUS", "VAN", "BUS", "", "BUS", ""};
-  const TextIndex index = IndexOf(texts);
-  EXPECT_EQ(index.Count(), 6);
-  EXPECT_EQ(PositionsOf("BUS", index), (std::vector<int>{0, 2, 4}));
-  EXPECT_EQ(PositionsOf("VAN", index), (std::vector<int>{1}));
-  EXPECT_EQ(PositionsOf("", index), (std::vector<int>{3, 5}));
+  IndexedTexts few({"BUS", "VAN", "BUS", "", "BUS", ""});
+  EXPECT_EQ(few.index.Count(), 6);
+  EXPECT_EQ(few.Of("BUS"), (Positions{0, 2, 4}));
+  EXPECT_EQ(few.Of("VAN"), (Positions{1}));
+  EXPECT_EQ(few.Of(""), (Positions{3, 5}));
+  few.index.Reserve(1000);
+  EXPECT_EQ(few.Of("BUS"), (Positions{0, 2, 4}));
 }
 
 TEST(TextIndexTest, TextsAreComparedByteForByte) {
-  const std::vector<std::string> texts = {"BUS", std::string("BUS\0", 4)};
-  const TextIndex index = IndexOf(texts);
-  EXPECT_EQ(PositionsOf("BUS", index), (std::vector<int>{0}));
-  EXPECT_EQ(index.First("bus"), TextIndex::kNone);
-  EXPECT_EQ(index.First("BU"), TextIndex::kNone);
-  EXPECT_EQ(index.First("BUSX"), TextIndex::kNone);
+  const IndexedTexts two({"BUS", std::string("BUS\0", 4)});
+  EXPECT_EQ(two.Of("BUS"), (Positions{0}));
+  for (const char* other : {"bus", "BU", "BUSX"}) EXPECT_EQ(two.Of(other), Positions()) << other;
+}
+
+TEST(TextIndexTest, AClearedIndexStartsAnew) {
+  IndexedTexts texts({"BUS", "VAN"});
+  texts.index.Clear();
+  EXPECT_EQ(texts.Of("BUS"), Positions());
+  texts.index.Add("BUS");
+  EXPECT_EQ(texts.Of("BUS"), (Positions{0}));
 }
 
 }  // namespace

@@ -9,7 +9,7 @@ namespace {
 
 struct CodeRow {
   PickField FrmMain::*list;
-  std::string Car::*field;
+  FieldText Car::*field;
   std::vector<std::string> codes;
 };
 
@@ -22,7 +22,7 @@ const std::vector<CodeRow> kCodeRows = {
 
 struct WordRow {
   PickField FrmMain::*list;
-  std::string IdeEntry::*field;
+  FieldText IdeEntry::*field;
   std::vector<std::string> words;
 };
 

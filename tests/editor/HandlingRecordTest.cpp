@@ -148,7 +148,7 @@ TEST(HandlingRecord, LeavesEveryFieldOfEveryVehicleAsItWas) {
 }
 
 struct ShownCode {
-  std::string Car::*field;
+  FieldText Car::*field;
   PickField FrmMain::*list;
   const char* code;
   int row;

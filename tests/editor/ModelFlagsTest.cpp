@@ -56,7 +56,7 @@ class Flagged : public TestSession {
     main.cmbAutos.Choose(0);
   }
 
-  const std::string& Flags() { return vars.Cars.At(0).ModelFlags; }
+  std::string Flags() { return vars.Cars.At(0).ModelFlags; }
 };
 
 struct Shown {

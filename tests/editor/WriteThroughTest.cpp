@@ -34,7 +34,7 @@ class Edited : public TestSession {
 
 struct HandlingBox {
   TextField FrmMain::*box;
-  std::string Car::*field;
+  FieldText Car::*field;
 };
 
 const std::vector<HandlingBox> kHandlingBoxes = {
@@ -69,7 +69,7 @@ const std::vector<HandlingBox> kHandlingBoxes = {
 
 struct DefinitionBox {
   TextField FrmMain::*box;
-  std::string IdeEntry::*field;
+  FieldText IdeEntry::*field;
 };
 
 const std::vector<DefinitionBox> kDefinitionBoxes = {

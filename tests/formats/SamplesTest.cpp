@@ -60,7 +60,7 @@ TEST(HandlingSample, TheBadFileGivesEveryProblemThereIs) {
   EXPECT_EQ(file.problems, expected);
 }
 
-std::set<std::string> ValuesOf(std::string IdeEntry::*field) {
+std::set<std::string> ValuesOf(FieldText IdeEntry::*field) {
   DefinitionFile file;
   ReadDefinitions(Sample("default.ide"), file);
   std::set<std::string> values;

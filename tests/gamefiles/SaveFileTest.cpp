@@ -38,7 +38,7 @@ class SaveFileTest : public ::testing::Test {
     test.main.cmdSaveAs.ClickByHand();
   }
 
-  const std::string& MassInSnapshot() const { return test.vars.Kopie_Cars.At(0).Mass; }
+  std::string MassInSnapshot() const { return test.vars.Kopie_Cars.At(0).Mass; }
 
   const std::string edited = kHead + CrLf({VehicleLineOf("BUS", "1")}) + kEnd;
   TestSession test;

@@ -24,13 +24,13 @@ std::string Saved(const std::string& onDisk, const Table<IdeEntry>& ides) {
 
 // A definition whose line is a comment or ends the section.
 bool LooksForeign(const IdeEntry& entry) {
-  return TextOf(entry).find('#') != std::string::npos || entry.ID.starts_with("end");
+  return TextOf(entry).find('#') != std::string::npos || entry.ID.View().starts_with("end");
 }
 
 // What a written line can't hold is lost: both extras of most types, the second one of a plane.
 IdeEntry AsWritten(IdeEntry entry) {
-  if (entry.Typ != "car") entry.Extra2.clear();
-  if (entry.Typ != "car" && entry.Typ != "plane") entry.Extra1.clear();
+  if (entry.Typ != "car") entry.Extra2 = "";
+  if (entry.Typ != "car" && entry.Typ != "plane") entry.Extra1 = "";
   return entry;
 }
 

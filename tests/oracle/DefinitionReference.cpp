@@ -12,12 +12,12 @@ bool BeginsWith(const std::string& line, const std::string& word) {
 
 IdeEntry RecordOf(std::string line) {
   IdeEntry entry;
-  std::string* const mandatory[] = {&entry.ID,    &entry.ModelName,  &entry.TXDName,
-                                    &entry.Typ,   &entry.HandlingID, &entry.GameName,
-                                    &entry.Anim,  &entry.Klasse,     &entry.Frequenz,
-                                    &entry.Level, &entry.CompRules};
+  FieldText* const mandatory[] = {&entry.ID,    &entry.ModelName,  &entry.TXDName,
+                                  &entry.Typ,   &entry.HandlingID, &entry.GameName,
+                                  &entry.Anim,  &entry.Klasse,     &entry.Frequenz,
+                                  &entry.Level, &entry.CompRules};
   std::size_t position = 0;
-  for (std::string* field : mandatory) *field = TakeCommaField(line, position++);
+  for (FieldText* field : mandatory) *field = TakeCommaField(line, position++);
   if (SplitAtCommas(line).size() >= 12) entry.Extra1 = TakeCommaField(line, 11);
   if (SplitAtCommas(line).size() >= 13) entry.Extra2 = TakeCommaField(line, 12);
   return entry;

@@ -137,8 +137,9 @@ void RequireTidyHandlingKept(const std::string& text) {
   const Read read(text);
   Require(read.failure == 0 && !read.file.names.empty(), "a tidy file loads");
   std::vector<Car> records = RecordsOf(read.file.cars);
-  std::sort(records.begin(), records.end(),
-            [](const Car& left, const Car& right) { return left.CarName < right.CarName; });
+  std::sort(records.begin(), records.end(), [](const Car& left, const Car& right) {
+    return left.CarName.View() < right.CarName.View();
+  });
   Require(RecordsOf(Read(read.Saved(text)).file.cars) == records,
           "a saved file loads with the same records");
   RequireHandlingSaved(text);

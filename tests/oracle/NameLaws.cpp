@@ -15,10 +15,14 @@ int FirstPlainly(const std::vector<std::string>& names, const std::string& name,
 }
 
 void RequirePositions(const std::vector<std::string>& names, const TextIndex& index) {
+  const auto nameAt = [&](int position) {
+    return std::string_view(names[static_cast<std::size_t>(position)]);
+  };
   for (int position = 0; position < index.Count(); ++position) {
     const std::string& name = names[static_cast<std::size_t>(position)];
-    Require(index.First(name) == FirstPlainly(names, name, 0), "the first of equal texts is found");
-    Require(index.Next(position) == FirstPlainly(names, name, position + 1),
+    Require(index.First(name, nameAt) == FirstPlainly(names, name, 0),
+            "the first of equal texts is found");
+    Require(index.Next(position, nameAt) == FirstPlainly(names, name, position + 1),
             "equal texts are found one behind the other");
   }
 }

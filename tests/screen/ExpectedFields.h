@@ -23,7 +23,7 @@ struct ExpectedRow {
 
 template <class Record>
 struct ExpectedField {
-  std::string Record::*value;
+  FieldText Record::*value;
   bool named;
   ExpectedRow shown;
 };

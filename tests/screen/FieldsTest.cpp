@@ -52,7 +52,7 @@ TEST(FieldsTest, EachDefinitionFieldHasItsSlotAndItsRowInTheOrderOfTheDisplay) {
 
 struct ExpectedCodes {
   const char* list;
-  std::string Car::*value;
+  FieldText Car::*value;
   const char* codes;
   int firstLang;
 };

@@ -8,7 +8,7 @@ namespace {
 
 template <class Record>
 void Hold(TestSession& session, const std::vector<Record>& records, Table<Record>& working,
-          Table<Record>& snapshot, std::string Record::*key) {
+          Table<Record>& snapshot, FieldText Record::*key) {
   session.main.cmbAutos.Clear();
   snapshot = Table<Record>();
   for (const Record& record : records) {

@@ -12,7 +12,7 @@ std::string CrLf(std::initializer_list<std::string_view> lines) {
 
 std::string TextOf(const IdeEntry& entry) {
   std::string text = entry.ID;
-  for (const std::string& field :
+  for (const FieldText& field :
        {entry.ModelName, entry.TXDName, entry.Typ, entry.HandlingID, entry.GameName, entry.Anim,
         entry.Klasse, entry.Frequenz, entry.Level, entry.CompRules, entry.Extra1, entry.Extra2}) {
     text += "|" + field;

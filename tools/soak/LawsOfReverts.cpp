@@ -8,7 +8,7 @@ namespace wheelwright::soak {
 namespace {
 
 template <class Record>
-std::size_t FirstNamed(const std::vector<Record>& records, std::string Record::*key,
+std::size_t FirstNamed(const std::vector<Record>& records, FieldText Record::*key,
                        const std::string& text) {
   const auto named = [&](const Record& record) { return record.*key == text; };
   const auto found = std::find_if(records.begin(), records.end(), named);

@@ -1,0 +1,20 @@
+#include "core/FieldText.h"
+
+namespace wheelwright {
+
+FieldText::FieldText(std::string_view text) {
+  if (text.size() > kMark) {
+    PutElsewhere(text);
+    return;
+  }
+  std::memcpy(bytes_.data(), text.data(), text.size());
+  bytes_[kMark] = static_cast<char>(text.size() + 1);
+}
+
+void FieldText::PutElsewhere(std::string_view text) {
+  const std::string* const there = new std::string(text);
+  bytes_ = {};
+  std::memcpy(bytes_.data(), &there, sizeof there);
+}
+
+}  // namespace wheelwright
