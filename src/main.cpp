@@ -24,8 +24,7 @@ bool LacksDisplay() {
 int main(int argumentCount, char** arguments) {
   wheelwright::LetWritesFail();
   if (LacksDisplay()) {
-    std::fputs("Wheelwright needs a display: neither DISPLAY nor WAYLAND_DISPLAY is set.\n",
-               stderr);
+    std::fputs("Wheelwright needs a display: neither DISPLAY nor WAYLAND_DISPLAY is set.\n", stderr);
     return 1;
   }
   QApplication application(argumentCount, arguments);

@@ -14,9 +14,7 @@ constexpr std::int16_t kDeletedIndex = -1;
 
 bool NothingToStoreIn(const ListBox& list) { return list.Count() < 1; }
 
-ColorEntry& ChosenColor(Session& session) {
-  return session.vars.Colors.At(session.main.lstColors.Row());
-}
+ColorEntry& ChosenColor(Session& session) { return session.vars.Colors.At(session.main.lstColors.Row()); }
 
 void RelabelChosenRow(Session& session) {
   ListBox& list = session.main.lstColors;

@@ -50,8 +50,7 @@ constexpr std::array<char, 256> codepage::kLowerCase = LowerCaseTable();
 std::string ToUnicode(std::string_view codePageText) {
   std::string utf8;
   utf8.reserve(codePageText.size());
-  for (const char byte : codePageText)
-    AppendUtf8(utf8, CharacterOf(static_cast<unsigned char>(byte)));
+  for (const char byte : codePageText) AppendUtf8(utf8, CharacterOf(static_cast<unsigned char>(byte)));
   return utf8;
 }
 

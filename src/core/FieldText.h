@@ -65,9 +65,7 @@ class FieldText {
   friend std::string operator+(const Text& left, const FieldText& right) {
     return std::string(left).append(right.View());
   }
-  friend std::ostream& operator<<(std::ostream& out, const FieldText& text) {
-    return out << text.View();
-  }
+  friend std::ostream& operator<<(std::ostream& out, const FieldText& text) { return out << text.View(); }
 
  private:
   // The last byte is the length and one, or the top byte of an address, which is 0.

@@ -49,8 +49,7 @@ class KeyIndex {
     key_ = key;
     lent_.clear();
     keys_.Reserve(records.size());
-    for (auto position = static_cast<std::size_t>(keys_.Count()); position < records.size();
-         ++position) {
+    for (auto position = static_cast<std::size_t>(keys_.Count()); position < records.size(); ++position) {
       keys_.Add(records[position].*key);
     }
     return keys_.First(text, KeysOf(records));

@@ -76,8 +76,7 @@ Magnitude MagnitudeOf(const NumericForm& form) {
   Magnitude magnitude;
   magnitude.digits.append(form.whole).append(form.fraction);
   magnitude.point = static_cast<std::int64_t>(form.whole.size()) + form.exponent;
-  const std::size_t zeros =
-      std::min(magnitude.digits.find_first_not_of('0'), magnitude.digits.size());
+  const std::size_t zeros = std::min(magnitude.digits.find_first_not_of('0'), magnitude.digits.size());
   magnitude.digits.erase(0, zeros);
   magnitude.point -= static_cast<std::int64_t>(zeros);
   return magnitude;

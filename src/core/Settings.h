@@ -13,15 +13,12 @@ class Settings {
   Settings& operator=(const Settings&) = delete;
   virtual ~Settings() = default;
 
-  virtual std::optional<std::string> Get(const std::string& section,
-                                         const std::string& key) const = 0;
+  virtual std::optional<std::string> Get(const std::string& section, const std::string& key) const = 0;
 
   // A failure to write isn't reported.
-  virtual void Set(const std::string& section, const std::string& key,
-                   const std::string& value) = 0;
+  virtual void Set(const std::string& section, const std::string& key, const std::string& value) = 0;
 
-  std::string GetOr(const std::string& section, const std::string& key,
-                    const std::string& absent) const {
+  std::string GetOr(const std::string& section, const std::string& key, const std::string& absent) const {
     return Get(section, key).value_or(absent);
   }
 };

@@ -100,9 +100,7 @@ class Table {
 
   // The index of the first record whose key equals the text byte for byte, kNone if none does;
   // failure 9 while the table is unallocated. Takes no walk over the table but the first time.
-  int First(FieldText Record::*key, std::string_view text) const {
-    return index_.First(Walk(), key, text);
-  }
+  int First(FieldText Record::*key, std::string_view text) const { return index_.First(Walk(), key, text); }
 
   // The index of the next record with that key, good until the next search.
   int Next(int index) const { return index_.Next(Walk(), index); }

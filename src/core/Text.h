@@ -21,8 +21,7 @@ std::string FoldedCase(std::string_view text);
 // for words that don't repeat themselves.
 std::size_t FindIgnoringCase(std::string_view text, std::string_view folded, std::size_t from = 0);
 
-inline bool HoldsIgnoringCase(std::string_view text, std::string_view folded,
-                              std::size_t from = 0) {
+inline bool HoldsIgnoringCase(std::string_view text, std::string_view folded, std::size_t from = 0) {
   return FindIgnoringCase(text, folded, from) != std::string_view::npos;
 }
 

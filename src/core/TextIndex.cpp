@@ -25,8 +25,7 @@ void TextIndex::Add(std::string_view text) {
 void TextIndex::Link(int position) {
   Entry& entry = entries_[static_cast<std::size_t>(position)];
   Bucket& bucket = buckets_[entry.hash & (buckets_.size() - 1)];
-  (bucket.first == kNone ? bucket.first : entries_[static_cast<std::size_t>(bucket.last)].next) =
-      position;
+  (bucket.first == kNone ? bucket.first : entries_[static_cast<std::size_t>(bucket.last)].next) = position;
   bucket.last = position;
   entry.next = kNone;
 }

@@ -61,9 +61,7 @@ class TextIndex {
   }
 
   const Entry& EntryAt(int position) const { return entries_[static_cast<std::size_t>(position)]; }
-  const Bucket& BucketOf(std::uint32_t hash) const {
-    return buckets_[hash & (buckets_.size() - 1)];
-  }
+  const Bucket& BucketOf(std::uint32_t hash) const { return buckets_[hash & (buckets_.size() - 1)]; }
   void Link(int position);
 
   std::vector<Entry> entries_;   // by position

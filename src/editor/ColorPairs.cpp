@@ -84,8 +84,7 @@ void ShowColorPairs(Session& session) {
   NamesByIndex names;
   for (const ColorEntry& color : session.vars.Colors.Walk()) names[color.Index] = &color.ColorName;
   Table<CarColorEntry>& carColors = session.vars.CarColors;
-  for (int i = carColors.First(&CarColorEntry::ModelName, key); i != carColors.kNone;
-       i = carColors.Next(i)) {
+  for (int i = carColors.First(&CarColorEntry::ModelName, key); i != carColors.kNone; i = carColors.Next(i)) {
     ListPairsOf(session, names, carColors.At(i));
     session.vars.CurrentCarColor = Checked16(i);
   }

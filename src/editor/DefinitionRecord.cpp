@@ -81,8 +81,7 @@ void ShowDefinitionRecord(Session& session) {
   const std::string key = main.cmbAutos.Text();
   ShowVehiclePicture(session, key, main.picCar2);
   vars.CurrentIde = Checked16(std::max(0, vars.Ides.First(&IdeEntry::HandlingID, key)));
-  for (const FieldRow<IdeEntry>& field :
-       std::span(kDefinitionFields).first(kShownDefinitionFields)) {
+  for (const FieldRow<IdeEntry>& field : std::span(kDefinitionFields).first(kShownDefinitionFields)) {
     const std::string text = vars.ShownIde().*field.value;
     if (auto* const box = InputOf<TextBox>(main, field)) box->SetText(text);
     if (auto* const list = InputOf<PickList>(main, field)) {

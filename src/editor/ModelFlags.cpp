@@ -57,8 +57,8 @@ void StoreFlag(Session& session, int flag) {
   // The lengths of the two parts hang on the group alone, whatever the length of the text.
   const std::size_t left = kDigits - static_cast<std::size_t>(group);
   const std::size_t right = std::min(flags.size(), static_cast<std::size_t>(group) - 1);
-  vars.ShownCar().ModelFlags = flags.substr(0, left) + GetFlagDigit(session.main, group) +
-                               flags.substr(flags.size() - right);
+  vars.ShownCar().ModelFlags =
+      flags.substr(0, left) + GetFlagDigit(session.main, group) + flags.substr(flags.size() - right);
   if (flag != kFlagWithoutMark) vars.IsSaved = false;
 }
 

@@ -37,8 +37,8 @@ void TakePairs(CommaLine& line, CarColorEntry& entry) {
 // "1,2,3<tab><tab><tab><tab># 7 name": one tab fewer behind numbers of eight characters or more.
 void AddColorLine(std::string& out, const ColorEntry& color) {
   constexpr std::size_t kLongNumbers = 8;
-  std::string line = std::to_string(color.Red) + "," + std::to_string(color.Green) + "," +
-                     std::to_string(color.Blue);
+  std::string line =
+      std::to_string(color.Red) + "," + std::to_string(color.Green) + "," + std::to_string(color.Blue);
   line += line.size() < kLongNumbers ? "\t\t\t\t" : "\t\t\t";
   AddLine(out, line + "# " + std::to_string(color.Index) + " " + color.ColorName);
 }
@@ -92,10 +92,8 @@ std::string WritePalette(std::string_view onDisk, const Table<ColorEntry>& color
 }
 
 std::string WritePairs(std::string_view withPalette, const Table<CarColorEntry>& carColors) {
-  constexpr SectionRules kPairs = {.opening = "car",
-                                   .commentColumns = std::string_view::npos,
-                                   .hasBanner = false,
-                                   .onlyOnce = false};
+  constexpr SectionRules kPairs = {
+      .opening = "car", .commentColumns = std::string_view::npos, .hasBanner = false, .onlyOnce = false};
   return WithSectionRewritten(withPalette, kPairs, [&](std::string& out) {
     for (const CarColorEntry& entry : carColors.Walk()) AddPairsLine(out, entry);
   });

@@ -54,10 +54,8 @@ void ReadDefinitions(std::string_view text, DefinitionFile& file) {
 }
 
 std::string WriteDefinitions(std::string_view onDisk, const Table<IdeEntry>& ides) {
-  constexpr SectionRules kCars = {.opening = "cars",
-                                  .commentColumns = std::string_view::npos,
-                                  .hasBanner = true,
-                                  .onlyOnce = false};
+  constexpr SectionRules kCars = {
+      .opening = "cars", .commentColumns = std::string_view::npos, .hasBanner = true, .onlyOnce = false};
   return WithSectionRewritten(onDisk, kCars, [&](std::string& out) {
     for (const IdeEntry& entry : ides.Walk()) AddDefinitionLine(out, entry);
   });

@@ -33,9 +33,8 @@ std::string ExportHeader(const WrittenVehicles& vehicles) {
   std::string header = Banner(';').Text();
   AddLine(header, "; Author: " + vehicles.author);
   AddLine(header, "; Created " + vehicles.created);
-  for (const std::string_view line :
-       {";", "; > COMMENTS <", "; ------------", "; TWEAK AT YOUR OWN RISK", ";", "; > THE DATA <",
-        "; ------------", ";"}) {
+  for (const std::string_view line : {";", "; > COMMENTS <", "; ------------", "; TWEAK AT YOUR OWN RISK",
+                                      ";", "; > THE DATA <", "; ------------", ";"}) {
     AddLine(header, line);
   }
   return header;
@@ -43,8 +42,7 @@ std::string ExportHeader(const WrittenVehicles& vehicles) {
 
 std::string WriteExport(const WrittenVehicles& vehicles) {
   std::string text = ExportHeader(vehicles);
-  ForEachNamedVehicle(vehicles,
-                      [&](int /*position*/, const Car& car) { AddVehicleLine(text, car); });
+  ForEachNamedVehicle(vehicles, [&](int /*position*/, const Car& car) { AddVehicleLine(text, car); });
   AddLine(text, ";");
   AddLine(text, ";the end");
   return text;
@@ -52,8 +50,7 @@ std::string WriteExport(const WrittenVehicles& vehicles) {
 
 std::string WriteTuningList(const WrittenVehicles& vehicles) {
   std::string text;
-  ForEachNamedVehicle(vehicles,
-                      [&](int position, const Car& car) { AddTuningBlock(text, position, car); });
+  ForEachNamedVehicle(vehicles, [&](int position, const Car& car) { AddTuningBlock(text, position, car); });
   return text;
 }
 

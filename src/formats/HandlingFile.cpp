@@ -16,8 +16,7 @@ bool IsVehicleLine(std::string_view line) {
 }
 
 // The text behind a word and one character, which is skipped whatever it is.
-void TakeTextBehind(std::string_view line, std::string_view foldedWord, std::size_t from,
-                    std::string& text) {
+void TakeTextBehind(std::string_view line, std::string_view foldedWord, std::size_t from, std::string& text) {
   const std::size_t at = FindIgnoringCase(line, foldedWord, from);
   if (at == std::string_view::npos) return;
   const std::size_t begin = std::min(line.size(), at + foldedWord.size() + 1);
@@ -92,8 +91,7 @@ class RecordPass {
 
 class HandlingWriter {
  public:
-  HandlingWriter(const WrittenVehicles& vehicles, std::size_t expectedLength)
-      : vehicles_(vehicles) {
+  HandlingWriter(const WrittenVehicles& vehicles, std::size_t expectedLength) : vehicles_(vehicles) {
     out_.reserve(expectedLength);
     out_ += banner_.Text();
   }
@@ -124,8 +122,7 @@ class HandlingWriter {
   void TakeVehicleLine() {
     if (vehiclesWritten_) return;
     vehiclesWritten_ = true;
-    ForEachNamedVehicle(vehicles_,
-                        [&](int /*position*/, const Car& car) { AddVehicleLine(out_, car); });
+    ForEachNamedVehicle(vehicles_, [&](int /*position*/, const Car& car) { AddVehicleLine(out_, car); });
   }
 
   void TakeComment(std::string_view line, std::size_t comment) {

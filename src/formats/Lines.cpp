@@ -4,8 +4,7 @@ namespace wheelwright {
 namespace {
 
 bool HasBareLineFeed(std::string_view text) {
-  for (std::size_t at = text.find('\n'); at != std::string_view::npos;
-       at = text.find('\n', at + 1)) {
+  for (std::size_t at = text.find('\n'); at != std::string_view::npos; at = text.find('\n', at + 1)) {
     if (at == 0 || text[at - 1] != '\r') return true;
   }
   return false;

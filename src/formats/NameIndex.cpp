@@ -14,9 +14,7 @@ std::size_t PairOf(char first, char second) {
 }
 
 auto TextsOf(const std::vector<std::string>& texts) {
-  return [&texts](int position) -> std::string_view {
-    return texts[static_cast<std::size_t>(position)];
-  };
+  return [&texts](int position) -> std::string_view { return texts[static_cast<std::size_t>(position)]; };
 }
 
 }  // namespace
@@ -64,8 +62,7 @@ const std::vector<NameHit>& NameIndex::Anywhere(std::string_view line) {
   const std::string folded = FoldedCase(line);
   AddFolded({});
   for (std::size_t at = 0; at < folded.size(); ++at) {
-    const bool pairBegins =
-        at + 1 < folded.size() && firstTwo_.test(PairOf(folded[at], folded[at + 1]));
+    const bool pairBegins = at + 1 < folded.size() && firstTwo_.test(PairOf(folded[at], folded[at + 1]));
     if (onlyOne_.test(static_cast<unsigned char>(folded[at]))) {
       AddFolded(std::string_view(folded).substr(at, 1));
     }
@@ -88,15 +85,13 @@ void NameIndex::AddFolded(std::string_view part) {
   const int first = folded_.First(part, foldedAt);
   if (first == TextIndex::kNone || alreadyHit_[static_cast<std::size_t>(first)]) return;
   alreadyHit_[static_cast<std::size_t>(first)] = true;
-  for (int at = first; at != TextIndex::kNone; at = folded_.Next(at, foldedAt))
-    hits_.push_back({at, false});
+  for (int at = first; at != TextIndex::kNone; at = folded_.Next(at, foldedAt)) hits_.push_back({at, false});
 }
 
 void NameIndex::SortHits() {
   if (hits_.size() < 2) return;
-  std::sort(hits_.begin(), hits_.end(), [](const NameHit& left, const NameHit& right) {
-    return left.position < right.position;
-  });
+  std::sort(hits_.begin(), hits_.end(),
+            [](const NameHit& left, const NameHit& right) { return left.position < right.position; });
 }
 
 }  // namespace wheelwright

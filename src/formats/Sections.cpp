@@ -16,8 +16,7 @@ std::string Banner::Text() const {
 }
 
 bool Banner::IsIn(std::string_view line, std::size_t from) const {
-  return HoldsIgnoringCase(line, foldedBeginning_, from) ||
-         HoldsIgnoringCase(line, foldedHomePage_, from);
+  return HoldsIgnoringCase(line, foldedBeginning_, from) || HoldsIgnoringCase(line, foldedHomePage_, from);
 }
 
 std::string WithSectionRewritten(std::string_view text, const SectionRules& rules,

@@ -46,9 +46,7 @@ class SpaceLine {
   std::int16_t CountSpaceFields() const;
 
   // A field counted from 0, empty for an index outside the fields. Only the first 33 can be had.
-  std::string_view GetSpaceField(int index) const {
-    return fields_.at(static_cast<std::size_t>(index));
-  }
+  std::string_view GetSpaceField(int index) const { return fields_.at(static_cast<std::size_t>(index)); }
 
  private:
   std::array<std::string_view, kFieldsAtHand> fields_;

@@ -59,11 +59,10 @@ std::optional<int> LoadHandling(Session& session, std::string_view text) {
 
 std::string RewrittenHandling(Session& session, const std::string& /*target*/) {
   const FrmMain& main = session.main;
-  return WriteHandling(session.files.Read(session.vars.CurrentFile),
-                       {.names = main.cmbAutos.Rows(),
-                        .cars = session.vars.Cars,
-                        .author = main.txtAuthor.Text(),
-                        .created = main.txtDate.Text()});
+  return WriteHandling(session.files.Read(session.vars.CurrentFile), {.names = main.cmbAutos.Rows(),
+                                                                      .cars = session.vars.Cars,
+                                                                      .author = main.txtAuthor.Text(),
+                                                                      .created = main.txtDate.Text()});
 }
 
 // The definition file
@@ -189,8 +188,7 @@ const FileKind* KindOfFile(const std::string& name, int filterIndex) {
 std::string FilterOfAllKinds(const Session& session) {
   std::string filter;
   for (const FileKind& kind : kFileKinds) {
-    filter +=
-        LabelOf(session, kind) + "|*." + kind.ending + ";*." + kind.ending + kBackupEnding + "|";
+    filter += LabelOf(session, kind) + "|*." + kind.ending + ";*." + kind.ending + kBackupEnding + "|";
   }
   return filter;
 }

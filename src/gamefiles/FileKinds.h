@@ -20,10 +20,9 @@ inline constexpr const char* kBackupEnding = ".backup";
 struct FileKind {
   FileType type;
   int filterIndex;
-  std::string
-      ending;      // the last characters of the name, compared with case; those of a backup follow
-  LangEntry name;  // in file dialogs
-  bool hasAuthor;  // whether it names its author and date
+  std::string ending;  // the last characters of the name, compared with case; those of a backup follow
+  LangEntry name;      // in file dialogs
+  bool hasAuthor;      // whether it names its author and date
   bool hasSaveFilter;  // whether a save dialog has a filter of the kind's own
   TabGroup FrmMain::*tabs;
 

@@ -19,8 +19,7 @@ ReportList::Row RowOf(const Session& session, const LineProblem& problem) {
   const auto& lang = session.vars.Lang;
   if (problem.field == nullptr) {
     return {problem.vehicle, "",
-            lang[kWrongNumberOfValues] + ": " + std::to_string(problem.tokens) + " " +
-                lang[kInsteadOf33]};
+            lang[kWrongNumberOfValues] + ": " + std::to_string(problem.tokens) + " " + lang[kInsteadOf33]};
   }
   return {problem.vehicle, CaptionOf(session.main, problem.field),
           lang[problem.failed == TokenCheck::MustNotBeNumeric ? kMustNotBeNumber : kMustBeNumber]};

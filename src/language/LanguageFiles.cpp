@@ -57,8 +57,7 @@ void DiscoverLanguages(Session& session) {
   PickList& list = session.main.cmbSprache;
   list.Clear();
   for (const std::string& language : languages) list.AddRow(FromUnicode(language));
-  ChooseRowWithText(list,
-                    FromUnicode(session.settings.GetOr("Settings", "Language", languages.front())));
+  ChooseRowWithText(list, FromUnicode(session.settings.GetOr("Settings", "Language", languages.front())));
   LoadChosenLanguage(session);
 }
 

@@ -59,8 +59,7 @@ extern const std::array<const char*, kFlagCount> kFlagCaptions;
 // The pick lists of a definition's tabs, in this order. cmbExtra1 has the wheels; it shares its
 // spot with txtExtra1.
 inline constexpr std::array kTypes = {"car", "boat", "bike", "heli", "plane"};
-inline constexpr std::array kAnimations = {"null",  "van",   "biked", "bikeh",
-                                           "bikes", "bikev", "coach"};
+inline constexpr std::array kAnimations = {"null", "van", "biked", "bikeh", "bikes", "bikev", "coach"};
 inline constexpr std::array kClasses = {"normal", "poorfamily", "richfamily", "leisureboat",
                                         "ignore", "big",        "executive",  "worker",
                                         "taxi",   "workerboat", "motorbike",  "moped"};

@@ -23,8 +23,7 @@ void RowList::AddRows(std::vector<std::string> texts) {
   if (order_ == Order::Sorted) {
     MergeSorted(std::move(texts));
   } else {
-    rows_.insert(rows_.end(), std::make_move_iterator(texts.begin()),
-                 std::make_move_iterator(texts.end()));
+    rows_.insert(rows_.end(), std::make_move_iterator(texts.begin()), std::make_move_iterator(texts.end()));
     marked_.resize(rows_.size());
   }
   Tell(Aspect::Rows);

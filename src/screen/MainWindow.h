@@ -47,8 +47,7 @@ struct Labelled : FieldLabels, Input {
       : FieldLabels{Label(window, labelName.empty() ? "lbl" + name.substr(3) : labelName, wording),
                     std::nullopt},
         Input(window, name) {
-    if (hintWording.lang != kNoLang)
-      hint.emplace(window, "lbl" + name.substr(3) + "Info", hintWording);
+    if (hintWording.lang != kNoLang) hint.emplace(window, "lbl" + name.substr(3) + "Info", hintWording);
   }
 };
 
@@ -81,8 +80,7 @@ struct FrmMain : Window {
                    {"Flags", 7},
                    {"Bild", 64},
                    {"Sonstiges", 62}}};
-  TabGroup SSTab2{
-      *this, "SSTab2", {{"ID&&Referenzen", 123}, {"Fahrzeug-Eigenschaften", 124}, {"Bild", 64}}};
+  TabGroup SSTab2{*this, "SSTab2", {{"ID&&Referenzen", 123}, {"Fahrzeug-Eigenschaften", 124}, {"Bild", 64}}};
   TabGroup SSTab3{*this, "SSTab3", {{"Farbentabelle", 155}, {"Autotabelle", 156}}};
 
   // Bottom row
@@ -109,21 +107,15 @@ struct FrmMain : Window {
       *this, "txtMassenmittelpY", {"Massenmittelp. Y", 27}, {"(-10.0 > x > 10.0)", 28}};
   TextField txtMassenmittelpZ{
       *this, "txtMassenmittelpZ", {"Massenmittelp. Z", 29}, {"(-10.0 > x > 10.0)", 30}};
-  TextField txtSubMerged{
-      *this, "txtSubMerged", {"Versinkt (%)", 31}, {"im Wasser (10 to 120)", 32}};
+  TextField txtSubMerged{*this, "txtSubMerged", {"Versinkt (%)", 31}, {"im Wasser (10 to 120)", 32}};
 
   // SSTab1: Power and drive
-  TextField txtTractionMulti{
-      *this, "txtTractionMulti", {"Zugkraft - Multipl.", 33}, {"(0.5 bis 2.0)", 34}};
-  TextField txtTractionLoss{
-      *this, "txtTractionLoss", {"Zugkraft - Verlust", 35}, {"(0.0 > x > 1.0)", 36}};
-  TextField txtTractionBias{
-      *this, "txtTractionBias", {"Zugkraft - Vorsp.", 37}, {"(0.0 > x > 1.0)", 38}};
+  TextField txtTractionMulti{*this, "txtTractionMulti", {"Zugkraft - Multipl.", 33}, {"(0.5 bis 2.0)", 34}};
+  TextField txtTractionLoss{*this, "txtTractionLoss", {"Zugkraft - Verlust", 35}, {"(0.0 > x > 1.0)", 36}};
+  TextField txtTractionBias{*this, "txtTractionBias", {"Zugkraft - Vorsp.", 37}, {"(0.0 > x > 1.0)", 38}};
   TextField txtGaenge{*this, "txtGaenge", {"Anzahl Gänge", 39}, {"(1 bis 5)", 40}};
-  TextField txtGeschwindigkeit{
-      *this, "txtGeschwindigkeit", {"Geschw. (km/h)", 41}, {"(5.0 bis 150.0)", 42}};
-  TextField txtBeschleunigung{
-      *this, "txtBeschleunigung", {"Beschl. (m/s^2)", 43}, {"(0.1 bis 10.0)", 44}};
+  TextField txtGeschwindigkeit{*this, "txtGeschwindigkeit", {"Geschw. (km/h)", 41}, {"(5.0 bis 150.0)", 42}};
+  TextField txtBeschleunigung{*this, "txtBeschleunigung", {"Beschl. (m/s^2)", 43}, {"(0.1 bis 10.0)", 44}};
   PickField cmbAntrieb{*this, "cmbAntrieb", {"Antrieb", 45}};
   PickField cmbMotor{*this, "cmbMotor", {"Motor-Typ", 49}, {}, "lblMotorTyp"};
 
@@ -133,8 +125,7 @@ struct FrmMain : Window {
   TickField chkABS{*this, "chkABS", {"ABS", 57}};
 
   // SSTab1: Suspension
-  TextField txtRadeinschlag{
-      *this, "txtRadeinschlag", {"Radeinschlag", 58}, {"(10.0 bis 40.0)", 59}};
+  TextField txtRadeinschlag{*this, "txtRadeinschlag", {"Radeinschlag", 58}, {"(10.0 bis 40.0)", 59}};
   TextField txtKraftlevel{*this, "txtKraftlevel", {"Kraftlevel", 65}, {"(>= 0.0)", 66}};
   TextField txtDLevel{*this, "txtDLevel", {"Dämpfungslevel", 67}, {"(>= 0.0)", 68}};
   TextField txtOLimit{*this, "txtOLimit", {"Oberes Limit", 69}, {"(-1.0 bis 1.0)", 70}};
@@ -161,26 +152,21 @@ struct FrmMain : Window {
 
   // SSTab2: IDs and references
   TextField txtID{*this, "txtID", {"ID", 125}, {"ID in der default.ide", 126}};
-  TextField txtModelName{
-      *this, "txtModelName", {"Model-Name", 129}, {"Referenz zum 3D-Modell", 130}};
+  TextField txtModelName{*this, "txtModelName", {"Model-Name", 129}, {"Referenz zum 3D-Modell", 130}};
   TextField txtTXDName{*this, "txtTXDName", {"TXD-Name", 131}, {"Referenz zur Textur", 132}};
-  TextField txtHandlingID{
-      *this, "txtHandlingID", {"Handling-ID", 127}, {"Referenz zu handling.cfg", 128}};
-  TextField txtGameName{
-      *this, "txtGameName", {"Game-Name", 133}, {"Referenz zum Namen im Spiel", 134}};
+  TextField txtHandlingID{*this, "txtHandlingID", {"Handling-ID", 127}, {"Referenz zu handling.cfg", 128}};
+  TextField txtGameName{*this, "txtGameName", {"Game-Name", 133}, {"Referenz zum Namen im Spiel", 134}};
 
   // SSTab2: Vehicle properties
   PickField cmbTyp{*this, "cmbTyp", {"Typ", 135}, {"Fahrzeugtyp", 136}};
   PickField cmbAnim{*this, "cmbAnim", {"Anim", 180}, {"Animation", 181}};
   PickField cmbKlasse{*this, "cmbKlasse", {"Klasse", 137}, {"Wer fährt dieses Fahrzeug", 138}};
-  TextField txtFrequenz{
-      *this, "txtFrequenz", {"Frequenz", 139}, {"Häufigkeit des Auftretens", 140}};
+  TextField txtFrequenz{*this, "txtFrequenz", {"Frequenz", 139}, {"Häufigkeit des Auftretens", 140}};
   TextField txtLevel{*this, "txtLevel", {"Level", 141}, {"Unbekannt", 142}};
   TextField txtCompRules{*this, "txtCompRules", {"Comprules", 143}, {"Unbekannt", 144}};
   TextField txtExtra1{*this, "txtExtra1", {"Extra 1", 145}};
   PickList cmbExtra1{*this, "cmbExtra1"};
-  Label& lblExtra1Info =
-      txtExtra1.hint.emplace(*this, "lblExtra1Info", Wording{"Extra 1 Info", 146});
+  Label& lblExtra1Info = txtExtra1.hint.emplace(*this, "lblExtra1Info", Wording{"Extra 1 Info", 146});
   TextField txtExtra2{*this, "txtExtra2", {"Extra 2", 148}, {"Extra 2 Info", 149}};
 
   // SSTab2: Picture

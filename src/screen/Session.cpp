@@ -4,12 +4,9 @@
 
 namespace wheelwright {
 
-std::string Message(const Session& session, LangEntry entry) {
-  return ToUnicode(session.vars.Lang[entry]);
-}
+std::string Message(const Session& session, LangEntry entry) { return ToUnicode(session.vars.Lang[entry]); }
 
-void Guarded(Session& session, const std::function<void()>& steps,
-             const std::function<void()>& atOnce) {
+void Guarded(Session& session, const std::function<void()>& steps, const std::function<void()>& atOnce) {
   try {
     steps();
   } catch (...) {

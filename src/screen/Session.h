@@ -36,7 +36,6 @@ std::string Message(const Session& session, LangEntry entry);
 // Runs the steps of a guarded handler. A failure ends them: `atOnce` runs first, then a cancelled
 // file dialog ends without a word and any other failure shows its message in an error box. What the
 // steps did until then stays done.
-void Guarded(Session& session, const std::function<void()>& steps,
-             const std::function<void()>& atOnce = {});
+void Guarded(Session& session, const std::function<void()>& steps, const std::function<void()>& atOnce = {});
 
 }  // namespace wheelwright

@@ -39,8 +39,7 @@ void BuildHandlingTabs(FrmMain& m) {
   for (CheckBox& flag : m.chkFlag) flag.PutInto(m.SSTab1, kFlagsTab);
   m.picFrame.PutInto(m.SSTab1, kPictureTab);
   m.picCar.PutInto(m.picFrame);
-  PutAll({&m.cmdNewCar, &m.cmdDeleteCar, &m.cmdImportCar, &m.cmdExportCar, &m.frameAuthor,
-          &m.frameDate},
+  PutAll({&m.cmdNewCar, &m.cmdDeleteCar, &m.cmdImportCar, &m.cmdExportCar, &m.frameAuthor, &m.frameDate},
          m.SSTab1, kMiscTab);
   m.txtAuthor.PutInto(m.frameAuthor);
   m.txtDate.PutInto(m.frameDate);
@@ -60,15 +59,14 @@ void BuildDefinitionTabs(FrmMain& m) {
 }
 
 void BuildColorTabs(FrmMain& m) {
-  PutAll({&m.lstColors, &m.cmdNewColor, &m.cmdDeleteColor, &m.lblColorName, &m.txtColorName,
-          &m.lblRot, &m.HScroll1, &m.lblRotWert, &m.lblGrün, &m.HScroll2, &m.lblGrünWert,
-          &m.lblBlau, &m.HScroll3, &m.lblBlauWert, &m.picFarbe},
+  PutAll({&m.lstColors, &m.cmdNewColor, &m.cmdDeleteColor, &m.lblColorName, &m.txtColorName, &m.lblRot,
+          &m.HScroll1, &m.lblRotWert, &m.lblGrün, &m.HScroll2, &m.lblGrünWert, &m.lblBlau, &m.HScroll3,
+          &m.lblBlauWert, &m.picFarbe},
          m.SSTab3, kPaletteTab);
   m.frameColors.PutInto(m.SSTab3, kPairsTab);
   PutAll({&m.lstCarColors, &m.cmdRemColor}, m.frameColors);
   m.frameAddColors.PutInto(m.SSTab3, kPairsTab);
-  PutAll({&m.lblColor1, &m.cmbColor1, &m.picColor1, &m.lblColor2, &m.cmbColor2, &m.picColor2,
-          &m.cmdAddColor},
+  PutAll({&m.lblColor1, &m.cmbColor1, &m.picColor1, &m.lblColor2, &m.cmbColor2, &m.picColor2, &m.cmdAddColor},
          m.frameAddColors);
 }
 
@@ -83,8 +81,8 @@ FrmMain::FrmMain()
   BuildHandlingTabs(*this);
   BuildDefinitionTabs(*this);
   BuildColorTabs(*this);
-  for (Control* control : std::initializer_list<Control*>{
-           &FrameAutos, &cmdSave, &cmdSaveAs, &cmdUndo, &cmdBackup, &SSTab1, &SSTab2, &SSTab3}) {
+  for (Control* control : std::initializer_list<Control*>{&FrameAutos, &cmdSave, &cmdSaveAs, &cmdUndo,
+                                                          &cmdBackup, &SSTab1, &SSTab2, &SSTab3}) {
     control->SetEnabled(false);
   }
   SSTab2.SetVisible(false);

@@ -87,9 +87,8 @@ TEST(Palette, AClickOnARowEqualInNameAndComponentsLeavesTheFileUnmarked) {
 TEST(Palette, AClickShowsTheNameFirstAndThenRedGreenAndBlue) {
   Opened test(kThree);
   Texts order;
-  for (Control* control :
-       std::initializer_list<Control*>{&test.main.HScroll3, &test.main.HScroll2,
-                                       &test.main.HScroll1, &test.main.txtColorName}) {
+  for (Control* control : std::initializer_list<Control*>{&test.main.HScroll3, &test.main.HScroll2,
+                                                          &test.main.HScroll1, &test.main.txtColorName}) {
     control->notice = [&order, control](Aspect) { order.push_back(control->Name()); };
   }
   test.main.lstColors.ChooseByHand(1);
@@ -128,16 +127,15 @@ TEST(Palette, EachBarMarksTheFile) {
     test.Choose(1);
     (test.main.*bar).MoveByHand(77);
     EXPECT_FALSE(test.vars.IsSaved);
-    EXPECT_EQ(TextsOf(test.vars.Kopie_Colors),
-              (Texts{"0: 1,2,3 oak", "1: 4,5,6 elm", "2: 7,8,9 ash"}));
+    EXPECT_EQ(TextsOf(test.vars.Kopie_Colors), (Texts{"0: 1,2,3 oak", "1: 4,5,6 elm", "2: 7,8,9 ash"}));
   }
 }
 
 TEST(Palette, AnyNameIsTaken) {
   Opened test(kThree);
   test.Choose(1);
-  for (const std::string& name : {std::string("dark - elm"), std::string(), std::string(500, 'x'),
-                                  std::string("# 1 \xFC,")}) {
+  for (const std::string& name :
+       {std::string("dark - elm"), std::string(), std::string(500, 'x'), std::string("# 1 \xFC,")}) {
     test.vars.IsSaved = true;
     test.main.txtColorName.EditByHand(name);
     EXPECT_EQ(test.vars.Colors.At(1).ColorName, name);
@@ -274,10 +272,9 @@ TEST(Palette, ADeletionLeavesAGapInTheNumbersAndSetsReferencesToNought) {
   test.main.cmbAutos.ChooseByHand(2);
   EXPECT_EQ(test.main.lstCarColors.Rows(), Texts{"C - D"});
   test.main.cmdSave.ClickByHand();
-  EXPECT_EQ(
-      test.Disk(TestSession::kColorPath),
-      kBanner + CrLf({"col", "1,1,1\t\t\t\t# 0 A", "3,3,3\t\t\t\t# 2 C", "4,4,4\t\t\t\t# 3 D",
-                      "end", "car", "bus, 0, 2, 3, 0", "cab, 0, 0", "van, 2, 3", "end", "", ""}));
+  EXPECT_EQ(test.Disk(TestSession::kColorPath),
+            kBanner + CrLf({"col", "1,1,1\t\t\t\t# 0 A", "3,3,3\t\t\t\t# 2 C", "4,4,4\t\t\t\t# 3 D", "end",
+                            "car", "bus, 0, 2, 3, 0", "cab, 0, 0", "van, 2, 3", "end", "", ""}));
   test.OpenColors(test.Disk(TestSession::kColorPath));
   EXPECT_EQ(TextsOf(test.vars.Colors), (Texts{"0: 1,1,1 A", "1: 3,3,3 C", "2: 4,4,4 D"}));
 }

@@ -55,8 +55,8 @@ Car BlankVehicle(const std::string& name) {
                                 &Car::SuspensionBias}) {
     car.*field = "0.0";
   }
-  for (FieldText Car::*field : {&Car::PercentSubmerged, &Car::GearCount, &Car::ABS,
-                                &Car::MonetaryValue, &Car::FrontLights, &Car::RearLights}) {
+  for (FieldText Car::*field : {&Car::PercentSubmerged, &Car::GearCount, &Car::ABS, &Car::MonetaryValue,
+                                &Car::FrontLights, &Car::RearLights}) {
     car.*field = "0";
   }
   car.DriveType = "F";
@@ -201,8 +201,7 @@ TEST(DeleteVehicle, TheOnlyOneFailsAndStaysInTheTable) {
   test.OpenHandling(CrLf({VehicleLineOf("BUS")}));
   const std::vector<Car> loaded = RecordsOf(test.vars.Cars);
   Delete(test);
-  EXPECT_EQ(test.desktop.shown,
-            (Shown{"yesno: E091", "error: Error: 380 - Invalid property value"}));
+  EXPECT_EQ(test.desktop.shown, (Shown{"yesno: E091", "error: Error: 380 - Invalid property value"}));
   EXPECT_EQ(test.main.cmbAutos.Rows(), Rows{});
   EXPECT_EQ(RecordsOf(test.vars.Cars), loaded);
   EXPECT_TRUE(test.vars.IsSaved);
@@ -220,9 +219,8 @@ TEST(DeleteVehicle, ARenamedOneIsFoundByItsNewName) {
 TEST(DeleteVehicle, WithADefinitionFileOpenStillTouchesTheVehicles) {
   TestSession test;
   test.OpenHandling(kThreeVehicles);
-  test.OpenDefinition(
-      CrLf({"cars", "130, cab, cab, car, CAB, TAXI, null, taxi, 10, 7, 0, 251, 0.7",
-            "131, van, van, car, VAN, VAN, null, normal, 10, 7, 0, 251, 0.7", "end"}));
+  test.OpenDefinition(CrLf({"cars", "130, cab, cab, car, CAB, TAXI, null, taxi, 10, 7, 0, 251, 0.7",
+                            "131, van, van, car, VAN, VAN, null, normal, 10, 7, 0, 251, 0.7", "end"}));
   const std::vector<IdeEntry> loaded = RecordsOf(test.vars.Ides);
   Delete(test);
   EXPECT_EQ(NamesOf(test.vars.Cars), (Rows{"AMBULAN", "BUS"}));

@@ -91,10 +91,8 @@ TEST(CodePageTest, AnEmptyTextStaysEmpty) {
 }
 
 TEST(CodePageTest, EveryCapitalLetterFoldsToItsSmallOneAndNothingElseFolds) {
-  const std::string capitals =
-      FromUnicode("ABCDEFGHIJKLMNOPQRSTUVWXYZÀÁÂÃÄÅÆÇÈÉÊËÌÍÎÏÐÑÒÓÔÕÖØÙÚÛÜÝÞŠŒŽŸ");
-  const std::string smallOnes =
-      FromUnicode("abcdefghijklmnopqrstuvwxyzàáâãäåæçèéêëìíîïðñòóôõöøùúûüýþšœžÿ");
+  const std::string capitals = FromUnicode("ABCDEFGHIJKLMNOPQRSTUVWXYZÀÁÂÃÄÅÆÇÈÉÊËÌÍÎÏÐÑÒÓÔÕÖØÙÚÛÜÝÞŠŒŽŸ");
+  const std::string smallOnes = FromUnicode("abcdefghijklmnopqrstuvwxyzàáâãäåæçèéêëìíîïðñòóôõöøùúûüýþšœžÿ");
   ASSERT_EQ(capitals.size(), smallOnes.size());
   for (int byte = 0; byte < 256; ++byte) {
     const char letter = static_cast<char>(byte);

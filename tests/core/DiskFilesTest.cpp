@@ -46,8 +46,7 @@ class DiskFilesTest : public ::testing::Test {
     return NumberThrownBy([&] { files_.Write(path, text); });
   }
 
-  fs::path folder_ =
-      fs::temp_directory_path() / ("files-" + std::to_string(std::random_device{}()));
+  fs::path folder_ = fs::temp_directory_path() / ("files-" + std::to_string(std::random_device{}()));
   DiskFiles files_;
 };
 

@@ -9,8 +9,7 @@ namespace {
 
 const std::string kLonger(100, 'x');
 // Around the seven characters that have room in place, and with a zero among them.
-const std::string kTexts[] = {"",     "F", "123456", "1234567", "12345678", std::string("a\0b", 3),
-                              kLonger};
+const std::string kTexts[] = {"", "F", "123456", "1234567", "12345678", std::string("a\0b", 3), kLonger};
 
 TEST(FieldText, TakesNoMoreRoomThanAnAddress) { EXPECT_EQ(sizeof(FieldText), 8U); }
 

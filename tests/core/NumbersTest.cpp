@@ -109,8 +109,8 @@ TEST(NumbersTest, TheBoundsAreThoseAfterRounding) {
 
 TEST(NumbersTest, ANumberThatDoesNotFitOverflowsHoweverLargeItIs) {
   for (const char* text :
-       {"65536", "99999", "-99999", "100000", "1e5", "-1d6", "4294967296", "18446744073709551617",
-        "1e20", "1e99999999999999999999999", "-1e99999999999999999999999"})
+       {"65536", "99999", "-99999", "100000", "1e5", "-1d6", "4294967296", "18446744073709551617", "1e20",
+        "1e99999999999999999999999", "-1e99999999999999999999999"})
     EXPECT_EQ(FailureOfConverting(text), kOverflow) << text;
   EXPECT_EQ(FailureOfConverting("1e18446744073709551617"), kOverflow) << "2 to the 64th, and 1";
   EXPECT_EQ(FailureOfConverting(std::string(5000, '9')), kOverflow);
@@ -131,8 +131,8 @@ TEST(NumbersTest, BlanksAroundANumberAreCut) {
 }
 
 TEST(NumbersTest, WhatIsNoNumberIsATypeMismatch) {
-  for (const char* text : {"", "   ", "-", ".", "abc", "1e", "1 2", "- 1", "\t12", "12\r", "12\t",
-                           "0x10", "1.2.3", "99999x"}) {
+  for (const char* text :
+       {"", "   ", "-", ".", "abc", "1e", "1 2", "- 1", "\t12", "12\r", "12\t", "0x10", "1.2.3", "99999x"}) {
     EXPECT_EQ(FailureOfConverting(text), kTypeMismatch) << '"' << text << '"';
   }
 }

@@ -28,13 +28,11 @@ struct WordRow {
 
 const std::vector<WordRow> kWordRows = {
     {&FrmMain::cmbTyp, &IdeEntry::Typ, {"car", "boat", "bike", "heli", "plane"}},
-    {&FrmMain::cmbAnim,
-     &IdeEntry::Anim,
-     {"null", "van", "biked", "bikeh", "bikes", "bikev", "coach"}},
+    {&FrmMain::cmbAnim, &IdeEntry::Anim, {"null", "van", "biked", "bikeh", "bikes", "bikev", "coach"}},
     {&FrmMain::cmbKlasse,
      &IdeEntry::Klasse,
-     {"normal", "poorfamily", "richfamily", "leisureboat", "ignore", "big", "executive", "worker",
-      "taxi", "workerboat", "motorbike", "moped"}},
+     {"normal", "poorfamily", "richfamily", "leisureboat", "ignore", "big", "executive", "worker", "taxi",
+      "workerboat", "motorbike", "moped"}},
 };
 
 void HoldTwoCars(TestSession& s) {

@@ -9,9 +9,7 @@ namespace {
 
 using Rows = std::vector<std::string>;
 
-ColorEntry Color(std::int16_t index, const std::string& name) {
-  return {.Index = index, .ColorName = name};
-}
+ColorEntry Color(std::int16_t index, const std::string& name) { return {.Index = index, .ColorName = name}; }
 
 // Index and position differ, as after a deletion.
 std::vector<ColorEntry> Palette() { return {Color(4, "black"), Color(7, "red"), Color(9, "sky")}; }
@@ -39,8 +37,7 @@ TEST(ColorPairs, OfTwoColorsWithOneNumberTheLaterOneCounts) {
 
 TEST(ColorPairs, AModelOnTwoLinesShowsTheRowsOfBothAndTheSecondIsCurrent) {
   TestSession s;
-  HoldCarColors(s, Palette(),
-                {{"axo", {4}, {7}}, {"byl", {9}, {9}}, {"axo", {7}, {4}}, {"cid", {4}, {4}}});
+  HoldCarColors(s, Palette(), {{"axo", {4}, {7}}, {"byl", {9}, {9}}, {"axo", {7}, {4}}, {"cid", {4}, {4}}});
   EXPECT_EQ(ShownPairs(s, "axo"), (Rows{"black - red", "red - black"}));
   EXPECT_EQ(s.vars.CurrentCarColor, 2);
 }

@@ -37,14 +37,13 @@ Texts Shown(const FrmMain& m) {
 TEST(DefinitionRecord, ShowsEveryFieldOfTheChosenDefinition) {
   Holding test({Ide("A", "car", "null", "normal"), Ide("B", "heli", "coach", "moped")});
   PickByHand(test.main.cmbAutos, "B");
-  EXPECT_EQ(Shown(test.main), (Texts{"ID B", "ModelName B", "TXDName B", "heli", "B", "GameName B",
-                                     "coach", "moped", "Frequenz B", "Level B", "CompRules B"}));
+  EXPECT_EQ(Shown(test.main), (Texts{"ID B", "ModelName B", "TXDName B", "heli", "B", "GameName B", "coach",
+                                     "moped", "Frequenz B", "Level B", "CompRules B"}));
   EXPECT_EQ(test.vars.CurrentIde, 1);
 }
 
 TEST(DefinitionRecord, ADisplayChangesNoFieldAndMarksNothing) {
-  const std::vector<IdeEntry> ides = {Ide("A", "car", "van", "taxi"),
-                                      Ide("B", "plane", "bikev", "big")};
+  const std::vector<IdeEntry> ides = {Ide("A", "car", "van", "taxi"), Ide("B", "plane", "bikev", "big")};
   Holding test(ides);
   const Texts before = TextsOf(test.vars.Kopie_Ides);
   for (const char* key : {"B", "A", "B"}) {
@@ -99,14 +98,13 @@ TEST(DefinitionRecord, FillsTheControlsInTheirOrder) {
   Texts order;
   FrmMain& m = test.main;
   for (Control* control : std::initializer_list<Control*>{
-           &m.txtID, &m.txtModelName, &m.txtTXDName, &m.cmbTyp, &m.txtHandlingID, &m.txtGameName,
-           &m.cmbAnim, &m.cmbKlasse, &m.txtFrequenz, &m.txtLevel, &m.txtCompRules}) {
+           &m.txtID, &m.txtModelName, &m.txtTXDName, &m.cmbTyp, &m.txtHandlingID, &m.txtGameName, &m.cmbAnim,
+           &m.cmbKlasse, &m.txtFrequenz, &m.txtLevel, &m.txtCompRules}) {
     control->notice = [&order, control](Aspect) { order.push_back(control->Name()); };
   }
   PickByHand(test.main.cmbAutos, "B");
-  EXPECT_EQ(order,
-            (Texts{"txtID", "txtHandlingID", "txtModelName", "txtTXDName", "txtGameName", "cmbTyp",
-                   "cmbAnim", "cmbKlasse", "txtFrequenz", "txtLevel", "txtCompRules"}));
+  EXPECT_EQ(order, (Texts{"txtID", "txtHandlingID", "txtModelName", "txtTXDName", "txtGameName", "cmbTyp",
+                          "cmbAnim", "cmbKlasse", "txtFrequenz", "txtLevel", "txtCompRules"}));
 }
 
 TEST(DefinitionRecord, AHandlingIdOfAnotherDefinitionIsTakenAndThenFindsTheFirst) {

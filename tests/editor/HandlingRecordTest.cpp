@@ -169,22 +169,21 @@ TEST_P(Code, ChoosesItsEntry) {
   EXPECT_EQ(s.vars.Cars.At(1), car);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    HandlingRecord, Code,
-    ::testing::Values(ShownCode{&Car::DriveType, &FrmMain::cmbAntrieb, "F", 0},
-                      ShownCode{&Car::DriveType, &FrmMain::cmbAntrieb, "R", 1},
-                      ShownCode{&Car::DriveType, &FrmMain::cmbAntrieb, "4", 2},
-                      ShownCode{&Car::EngineType, &FrmMain::cmbMotor, "P", 0},
-                      ShownCode{&Car::EngineType, &FrmMain::cmbMotor, "D", 1},
-                      ShownCode{&Car::EngineType, &FrmMain::cmbMotor, "E", 2},
-                      ShownCode{&Car::FrontLights, &FrmMain::cmbFrontLichter, "0", 0},
-                      ShownCode{&Car::FrontLights, &FrmMain::cmbFrontLichter, "1", 1},
-                      ShownCode{&Car::FrontLights, &FrmMain::cmbFrontLichter, "2", 2},
-                      ShownCode{&Car::FrontLights, &FrmMain::cmbFrontLichter, "3", 3},
-                      ShownCode{&Car::RearLights, &FrmMain::cmbRearLichter, "0", 0},
-                      ShownCode{&Car::RearLights, &FrmMain::cmbRearLichter, "1", 1},
-                      ShownCode{&Car::RearLights, &FrmMain::cmbRearLichter, "2", 2},
-                      ShownCode{&Car::RearLights, &FrmMain::cmbRearLichter, "3", 3}));
+INSTANTIATE_TEST_SUITE_P(HandlingRecord, Code,
+                         ::testing::Values(ShownCode{&Car::DriveType, &FrmMain::cmbAntrieb, "F", 0},
+                                           ShownCode{&Car::DriveType, &FrmMain::cmbAntrieb, "R", 1},
+                                           ShownCode{&Car::DriveType, &FrmMain::cmbAntrieb, "4", 2},
+                                           ShownCode{&Car::EngineType, &FrmMain::cmbMotor, "P", 0},
+                                           ShownCode{&Car::EngineType, &FrmMain::cmbMotor, "D", 1},
+                                           ShownCode{&Car::EngineType, &FrmMain::cmbMotor, "E", 2},
+                                           ShownCode{&Car::FrontLights, &FrmMain::cmbFrontLichter, "0", 0},
+                                           ShownCode{&Car::FrontLights, &FrmMain::cmbFrontLichter, "1", 1},
+                                           ShownCode{&Car::FrontLights, &FrmMain::cmbFrontLichter, "2", 2},
+                                           ShownCode{&Car::FrontLights, &FrmMain::cmbFrontLichter, "3", 3},
+                                           ShownCode{&Car::RearLights, &FrmMain::cmbRearLichter, "0", 0},
+                                           ShownCode{&Car::RearLights, &FrmMain::cmbRearLichter, "1", 1},
+                                           ShownCode{&Car::RearLights, &FrmMain::cmbRearLichter, "2", 2},
+                                           ShownCode{&Car::RearLights, &FrmMain::cmbRearLichter, "3", 3}));
 
 class UnknownCode : public ::testing::TestWithParam<ShownCode> {};
 
@@ -206,17 +205,16 @@ TEST_P(UnknownCode, KeepsThePreviousVehiclesChoiceAndTheField) {
   EXPECT_EQ(s.vars.Cars.At(0), before);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    HandlingRecord, UnknownCode,
-    ::testing::Values(ShownCode{&Car::DriveType, &FrmMain::cmbAntrieb, "f", 2},
-                      ShownCode{&Car::DriveType, &FrmMain::cmbAntrieb, "", 2},
-                      ShownCode{&Car::DriveType, &FrmMain::cmbAntrieb, "FR", 2},
-                      ShownCode{&Car::EngineType, &FrmMain::cmbMotor, "p", 2},
-                      ShownCode{&Car::FrontLights, &FrmMain::cmbFrontLichter, "4", 2},
-                      ShownCode{&Car::FrontLights, &FrmMain::cmbFrontLichter, "", 2},
-                      ShownCode{&Car::FrontLights, &FrmMain::cmbFrontLichter, "01", 2},
-                      ShownCode{&Car::RearLights, &FrmMain::cmbRearLichter, "4", 2},
-                      ShownCode{&Car::RearLights, &FrmMain::cmbRearLichter, "", 2}));
+INSTANTIATE_TEST_SUITE_P(HandlingRecord, UnknownCode,
+                         ::testing::Values(ShownCode{&Car::DriveType, &FrmMain::cmbAntrieb, "f", 2},
+                                           ShownCode{&Car::DriveType, &FrmMain::cmbAntrieb, "", 2},
+                                           ShownCode{&Car::DriveType, &FrmMain::cmbAntrieb, "FR", 2},
+                                           ShownCode{&Car::EngineType, &FrmMain::cmbMotor, "p", 2},
+                                           ShownCode{&Car::FrontLights, &FrmMain::cmbFrontLichter, "4", 2},
+                                           ShownCode{&Car::FrontLights, &FrmMain::cmbFrontLichter, "", 2},
+                                           ShownCode{&Car::FrontLights, &FrmMain::cmbFrontLichter, "01", 2},
+                                           ShownCode{&Car::RearLights, &FrmMain::cmbRearLichter, "4", 2},
+                                           ShownCode{&Car::RearLights, &FrmMain::cmbRearLichter, "", 2}));
 
 struct ShownABS {
   const char* field;
@@ -245,9 +243,9 @@ TEST_P(ABS, ShowsItsStateAndOnlyAnEmptyFieldIsRepaired) {
 
 INSTANTIATE_TEST_SUITE_P(HandlingRecord, ABS,
                          ::testing::Values(ShownABS{"0", 0, "0"}, ShownABS{"1", 1, "1"},
-                                           ShownABS{"2", 2, "2"}, ShownABS{"", 0, "0"},
-                                           ShownABS{"3", 0, "3"}, ShownABS{"-1", 0, "-1"},
-                                           ShownABS{"yes", 0, "yes"}, ShownABS{"1.0", 0, "1.0"}));
+                                           ShownABS{"2", 2, "2"}, ShownABS{"", 0, "0"}, ShownABS{"3", 0, "3"},
+                                           ShownABS{"-1", 0, "-1"}, ShownABS{"yes", 0, "yes"},
+                                           ShownABS{"1.0", 0, "1.0"}));
 
 TEST(HandlingRecord, PadsTheFlagsInTheRecordWithoutMarkingTheFileAsChanged) {
   TestSession s;

@@ -84,10 +84,8 @@ TEST(LineKindCaptions, NothingIsHiddenOrDisabledForABoat) {
   s.main.SSTab1.SetEnabled(true);
   s.main.cmbAutos.Choose(0);
   for (const Exchanged& row : kExchanged) {
-    EXPECT_TRUE((s.main.*row.field).label.IsVisibleHere() &&
-                (s.main.*row.field).label.IsEnabledHere());
-    EXPECT_TRUE((s.main.*row.field).hint->IsVisibleHere() &&
-                (s.main.*row.field).hint->IsEnabledHere());
+    EXPECT_TRUE((s.main.*row.field).label.IsVisibleHere() && (s.main.*row.field).label.IsEnabledHere());
+    EXPECT_TRUE((s.main.*row.field).hint->IsVisibleHere() && (s.main.*row.field).hint->IsEnabledHere());
   }
   EXPECT_TRUE(s.main.txtBias.IsVisibleHere() && s.main.txtBias.IsEnabledHere());
 }
@@ -118,8 +116,8 @@ TEST(LineKindCaptions, AVehicleBehindTheEndOfTheSnapshotIsAnOrdinaryOne) {
 
 TEST(LineKindCaptions, AfterADeletionALaterVehicleHasTheKindOfTheOneBeforeIt) {
   TestSession s;
-  HoldCars(s, {CarOfKind("A", kOrdinaryVehicle), CarOfKind("B", kPercentLine),
-               CarOfKind("C", kOrdinaryVehicle)});
+  HoldCars(
+      s, {CarOfKind("A", kOrdinaryVehicle), CarOfKind("B", kPercentLine), CarOfKind("C", kOrdinaryVehicle)});
   s.main.cmbAutos.Choose(0);
   s.desktop.answers = {true};
   s.main.cmdDeleteCar.ClickByHand();

@@ -42,9 +42,7 @@ Ticked TickedOn(const FrmMain& main) {
   return flags;
 }
 
-void Click(TestSession& s, int flag) {
-  s.main.chkFlag[static_cast<std::size_t>(flag) - 1].ClickByHand();
-}
+void Click(TestSession& s, int flag) { s.main.chkFlag[static_cast<std::size_t>(flag) - 1].ClickByHand(); }
 
 // One vehicle with these flags, on screen.
 class Flagged : public TestSession {
@@ -79,9 +77,8 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(Shown{"0000001", "0000001", {1}}, Shown{"1000000", "1000000", {25}},
                       Shown{"0000800", "0000800", {12}},
                       Shown{"1234567", "1234567", {1, 2, 3, 6, 7, 9, 11, 15, 17, 18, 22, 25}},
-                      Shown{"3", "0000003", {1, 2}}, Shown{"0000", "0000000", {}},
-                      Shown{"", "0000000", {}}, Shown{"0000a00", "0000a00", {}},
-                      Shown{"abcdefF", "abcdefF", {1, 2, 3, 4}},
+                      Shown{"3", "0000003", {1, 2}}, Shown{"0000", "0000000", {}}, Shown{"", "0000000", {}},
+                      Shown{"0000a00", "0000a00", {}}, Shown{"abcdefF", "abcdefF", {1, 2, 3, 4}},
                       Shown{"G- .\xE4/:", "G- .\xE4/:", {}},
                       Shown{"12345678", "12345678", {1, 2, 3, 6, 7, 9, 11, 15, 17, 18, 22, 25}},
                       Shown{"F0000001F", "F0000001F", {25, 26, 27, 28}}));
@@ -93,8 +90,7 @@ TEST(ModelFlags, EachDigitOfEachGroupTicksItsBoxes) {
       text[static_cast<std::size_t>(7 - group)] = row.digit;
       Ticked expected;
       for (int bit = 0; bit < 4; ++bit) {
-        if (row.boxes[static_cast<std::size_t>(bit)] == 1)
-          expected.push_back((group - 1) * 4 + bit + 1);
+        if (row.boxes[static_cast<std::size_t>(bit)] == 1) expected.push_back((group - 1) * 4 + bit + 1);
       }
       FrmMain main;
       EXPECT_EQ(SpreadModelFlags(main, text), text);

@@ -17,9 +17,8 @@ const Texts kAsked = {"question: E153"};
 class Opened : public TestSession {
  public:
   explicit Opened(const std::string& vehicles) {
-    OpenColors(
-        "col\r\n200,0,0\t# 0 Rot\r\n0,0,200\t# 1 Blau\r\n250,250,0\t# 2 Gelb\r\nend\r\ncar\r\n" +
-        vehicles + "end\r\n");
+    OpenColors("col\r\n200,0,0\t# 0 Rot\r\n0,0,200\t# 1 Blau\r\n250,250,0\t# 2 Gelb\r\nend\r\ncar\r\n" +
+               vehicles + "end\r\n");
     desktop.shown.clear();
   }
 
@@ -321,8 +320,7 @@ TEST(PairEdits, TheOnlyPairLeavesOnePlaceOfNoughtsAndAnEmptyList) {
   test.main.cmbAutos.ChooseByHand(0);
   EXPECT_EQ(test.main.lstCarColors.Rows(), Texts{"Rot - Rot"});
   test.main.cmdSave.ClickByHand();
-  EXPECT_NE(test.Disk(TestSession::kColorPath).find("car\r\nbus, 0, 0\r\nend\r\n"),
-            std::string::npos);
+  EXPECT_NE(test.Disk(TestSession::kColorPath).find("car\r\nbus, 0, 0\r\nend\r\n"), std::string::npos);
 }
 
 TEST(PairEdits, APairAddedBehindTheLeftoverStandsInRowNoughtUntilTheNextDisplay) {

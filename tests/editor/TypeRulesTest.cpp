@@ -62,8 +62,8 @@ const Texts kExtrasOfAPlane = {"lblExtra1", "txtExtra1", "lblExtra1Info"};
 
 // The captions of the four labels, first those of the first Extra.
 Texts Captions(const FrmMain& main) {
-  return {main.txtExtra1.label.Caption(), main.lblExtra1Info.Caption(),
-          main.txtExtra2.label.Caption(), main.txtExtra2.hint->Caption()};
+  return {main.txtExtra1.label.Caption(), main.lblExtra1Info.Caption(), main.txtExtra2.label.Caption(),
+          main.txtExtra2.hint->Caption()};
 }
 
 TEST(TypeRules, ACarHasAWheelAndASecondValue) {

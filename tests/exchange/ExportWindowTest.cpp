@@ -11,8 +11,8 @@ namespace {
 using Rows = std::vector<std::string>;
 using Marks = std::vector<int>;
 
-const std::string kFourVehicles = CrLf(
-    {VehicleLineOf("TAXI"), VehicleLineOf("BUS"), VehicleLineOf("AMBULAN"), VehicleLineOf("VAN")});
+const std::string kFourVehicles =
+    CrLf({VehicleLineOf("TAXI"), VehicleLineOf("BUS"), VehicleLineOf("AMBULAN"), VehicleLineOf("VAN")});
 
 void OpenWindow(TestSession& test) {
   test.OpenHandling(kFourVehicles);

@@ -137,8 +137,7 @@ TEST(ImportVehicles, CountsRecordsInSixteenBits) {
   OpenBusAndTaxi(test);
   test.vars.Cars.ExtendTo(32766);
   Import(test, CrLf({VehicleLineOf("VAN"), VehicleLineOf("AMBULAN")}));
-  EXPECT_EQ(test.desktop.shown,
-            (Shown{"open", "hourglass", "normal", "error: Error: 6 - Overflow"}));
+  EXPECT_EQ(test.desktop.shown, (Shown{"open", "hourglass", "normal", "error: Error: 6 - Overflow"}));
   EXPECT_EQ(test.vars.Cars.Count(), 32768);
   EXPECT_EQ(test.vars.Cars.At(32767).CarName, "VAN");
   EXPECT_EQ(test.main.cmbAutos.Rows(), (Rows{"AMBULAN", "BUS", "TAXI", "VAN"}));
@@ -153,9 +152,9 @@ TEST(ImportVehicles, ProblemsJoinThoseOfBeforeAndShowTheirWindow) {
   Import(test, CrLf({"VAN           1500.0"}));
   Import(test, CrLf({"AXO           heavy"}));
   EXPECT_TRUE(test.error.IsVisible());
-  EXPECT_EQ(test.error.lstErrors.Rows(), (std::vector<ReportList::Row>{{"VAN", "", "E102: 2 E103"},
-                                                                       {"AXO", "", "E102: 2 E103"},
-                                                                       {"AXO", "E017", "E105"}}));
+  EXPECT_EQ(test.error.lstErrors.Rows(),
+            (std::vector<ReportList::Row>{
+                {"VAN", "", "E102: 2 E103"}, {"AXO", "", "E102: 2 E103"}, {"AXO", "E017", "E105"}}));
 }
 
 TEST(ImportVehicles, TheNextSaveWritesThemInTheirSortedPlaces) {
@@ -163,11 +162,10 @@ TEST(ImportVehicles, TheNextSaveWritesThemInTheirSortedPlaces) {
   OpenBusAndTaxi(test);
   Import(test, CrLf({VehicleLineOf("VAN"), VehicleLineOf("CAB")}));
   test.main.cmdSave.ClickByHand();
-  EXPECT_EQ(
-      test.Disk(TestSession::kHandlingPath),
-      CrLf({"; File created with Wheelwright V1.0.0", "; Homepage: https://wheelwright.example/",
-            VehicleLineOf("BUS", "5500.0"), VehicleLineOf("CAB"), VehicleLineOf("TAXI"),
-            VehicleLineOf("VAN"), ";", ";the end"}));
+  EXPECT_EQ(test.Disk(TestSession::kHandlingPath),
+            CrLf({"; File created with Wheelwright V1.0.0", "; Homepage: https://wheelwright.example/",
+                  VehicleLineOf("BUS", "5500.0"), VehicleLineOf("CAB"), VehicleLineOf("TAXI"),
+                  VehicleLineOf("VAN"), ";", ";the end"}));
 }
 
 }  // namespace

@@ -34,10 +34,9 @@ std::string Written(TestSession& test) {
 
 std::string BlockOf(const std::string& name) {
   const std::string record = "Kopie_Cars(0).";
-  return CrLf(
-      {"'" + name, record + "CarName = \"" + name + "\"", record + "SuspensionForceLevel = \"1.6\"",
-       record + "SuspensionDampingLevel = \"0.08\"", record + "suspension_upper_limit = \"0.35\"",
-       record + "suspension_lower_limit = \"-0.16\"", record + "IsSportCar = False", "", ""});
+  return CrLf({"'" + name, record + "CarName = \"" + name + "\"", record + "SuspensionForceLevel = \"1.6\"",
+               record + "SuspensionDampingLevel = \"0.08\"", record + "suspension_upper_limit = \"0.35\"",
+               record + "suspension_lower_limit = \"-0.16\"", record + "IsSportCar = False", "", ""});
 }
 
 TEST(WriteTuningFile, WithNothingOnTheRightDoesNothing) {

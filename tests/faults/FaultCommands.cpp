@@ -28,8 +28,7 @@ std::string DefinitionText() {
 }
 
 std::string ColorText() {
-  return CrLf(
-      {"col", "0,0,0\t\t\t\t# 0 black", "9,9,9\t\t\t\t# 1 grey", "end", "car", "bus, 0, 1", "end"});
+  return CrLf({"col", "0,0,0\t\t\t\t# 0 black", "9,9,9\t\t\t\t# 1 grey", "end", "car", "bus, 0, 1", "end"});
 }
 
 // Puts the three game files on the disk and says what another program would make of them.

@@ -12,8 +12,7 @@ using Cells = std::vector<std::string>;
 constexpr const char* kColumns =
     "| call | fault | shows | tables | edits | open file | enabled | vehicles | picture | texts | "
     "settings | disk |";
-constexpr const char* kRule =
-    "| --- | --- | --- | --- | --- | --- | --- | --- | --- | --- | --- | --- |";
+constexpr const char* kRule = "| --- | --- | --- | --- | --- | --- | --- | --- | --- | --- | --- | --- |";
 
 // A row of the page: some faults of one call that come to the same.
 struct FaultRow {
@@ -41,8 +40,7 @@ std::vector<FaultRow> RowsOf(const FaultCommand& command, int call, const std::s
   std::vector<FaultRow> rows;
   for (const Fault fault : faults) {
     const Cells cells = DifferencesFrom(faultless, OutcomeOf(command, call, fault));
-    const auto same =
-        std::ranges::find_if(rows, [&](const FaultRow& row) { return row.outcome == cells; });
+    const auto same = std::ranges::find_if(rows, [&](const FaultRow& row) { return row.outcome == cells; });
     if (same == rows.end()) {
       rows.push_back({std::to_string(call) + " " + label, NameOf(fault), cells});
     } else {
@@ -60,8 +58,8 @@ std::vector<std::string> FaultSectionOf(const FaultCommand& command) {
                  TextOf({"-", NameOf(Fault::None), faultless})};
   const std::vector<FileCall> calls = CallsOf(command);
   for (std::size_t i = 0; i < calls.size(); ++i) {
-    for (const FaultRow& row : RowsOf(command, static_cast<int>(i) + 1, LabelOf(calls[i]),
-                                      FaultsOf(calls, i), faultless)) {
+    for (const FaultRow& row :
+         RowsOf(command, static_cast<int>(i) + 1, LabelOf(calls[i]), FaultsOf(calls, i), faultless)) {
       lines.push_back(TextOf(row));
     }
   }

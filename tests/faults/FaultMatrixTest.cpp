@@ -75,10 +75,10 @@ TEST(FaultMatrixTest, AllOtherButtonsReachNoFile) {
     kind.arrange(s);
     s.files.FailAt(0, Fault::None);
     s.desktop.answers.assign(8, true);
-    for (Button* button : {&s.main.cmdInfo, &s.main.cmdExportCar, &s.main.cmdNewCar,
-                           &s.main.cmdNewColor, &s.main.cmdDeleteColor, &s.main.cmdAddColor,
-                           &s.main.cmdRemColor, &s.exporter.cmdAddAll, &s.exporter.cmdDelAll,
-                           &s.exporter.cmdClose, &s.session.error.cmdClose, &s.main.cmdEnde}) {
+    for (Button* button :
+         {&s.main.cmdInfo, &s.main.cmdExportCar, &s.main.cmdNewCar, &s.main.cmdNewColor,
+          &s.main.cmdDeleteColor, &s.main.cmdAddColor, &s.main.cmdRemColor, &s.exporter.cmdAddAll,
+          &s.exporter.cmdDelAll, &s.exporter.cmdClose, &s.session.error.cmdClose, &s.main.cmdEnde}) {
       s.Do([button] { button->ClickByHand(); });
       EXPECT_EQ(s.files.calls.size(), 0U) << button->Name() << " after " << kind.name;
     }

@@ -41,8 +41,7 @@ std::string RecordsOf(const Table<Record>& table) {
 }
 
 template <class Record>
-void AddTable(std::vector<std::string>& out, const Table<Record>& table,
-              const Table<Record>& snapshot) {
+void AddTable(std::vector<std::string>& out, const Table<Record>& table, const Table<Record>& snapshot) {
   if (table.IsAllocated() || snapshot.IsAllocated()) {
     out.push_back(RecordsOf(table) + " / " + RecordsOf(snapshot));
   }
@@ -110,8 +109,7 @@ bool IsHalfWay(const std::string& text, const std::string& from, const std::stri
 
 // Names a file's text after the write that a command makes of it: "new" is the last one. Empty if
 // it is none.
-std::string NameAmongWrites(const std::string& path, const std::string& text,
-                            const Played& played) {
+std::string NameAmongWrites(const std::string& path, const std::string& text, const Played& played) {
   const std::vector<FileCall>& calls = played.session->files.calls;
   std::string old = played.before.contains(path) ? played.before.at(path) : "";
   std::string name;
@@ -136,8 +134,7 @@ std::string Literal(const std::string& text) {
   return literal + "\"";
 }
 
-std::string NameOfContent(const FaultCommand& command, const std::string& path,
-                          const FaultySession& s) {
+std::string NameOfContent(const FaultCommand& command, const std::string& path, const FaultySession& s) {
   const Disk& disk = s.files.disk.contents;
   if (s.files.directories.contains(path)) return "a directory";
   if (!disk.contains(path)) return "gone";
@@ -173,11 +170,9 @@ std::string DiskOf(const FaultCommand& command, const Played& played) {
   for (const auto& [path, text] : all) {
     const auto then = played.before.find(path);
     const auto now = after.find(path);
-    const bool same =
-        then != played.before.end() && now != after.end() && then->second == now->second;
+    const bool same = then != played.before.end() && now != after.end() && then->second == now->second;
     if (same && !written.contains(path)) continue;
-    states.push_back(NameOfFile(path) + " " +
-                     (same ? "old" : NameOfContent(command, path, *played.session)));
+    states.push_back(NameOfFile(path) + " " + (same ? "old" : NameOfContent(command, path, *played.session)));
   }
   return Joined(states, "; ");
 }
@@ -230,9 +225,8 @@ const char* NameOf(Fault fault) {
 
 std::string LabelOf(const FileCall& call) {
   static const std::map<Operation, const char*> names = {
-      {Operation::Exists, "look for"}, {Operation::Clear, "clear marks of"},
-      {Operation::Read, "read"},       {Operation::Room, "find room for"},
-      {Operation::Write, "write"},     {Operation::List, "list"},
+      {Operation::Exists, "look for"},    {Operation::Clear, "clear marks of"}, {Operation::Read, "read"},
+      {Operation::Room, "find room for"}, {Operation::Write, "write"},          {Operation::List, "list"},
       {Operation::Picture, "picture"}};
   return std::string(names.at(call.operation)) + " " + NameOfFile(call.path);
 }

@@ -74,8 +74,7 @@ class FullDiskTest : public ::testing::TestWithParam<TinyKind> {
     const std::string head =
         "# File created with Wheelwright V1.0.0\r\n"
         "# Homepage: https://wheelwright.example/\r\n";
-    const std::string sections =
-        CrLf({"col", "1,1,1\t\t\t\t# 0 oak", "end", "car", "bus, 0, 0", "end"});
+    const std::string sections = CrLf({"col", "1,1,1\t\t\t\t# 0 oak", "end", "car", "bus, 0, 0", "end"});
     const std::size_t saved = head.size() + sections.size() + std::string("# \r\n\r\n\r\n").size();
     const std::string comment = "# " + std::string(TinyDisk::kPage + 1 - saved, 'x') + "\r\n";
     files.Write(In("carcols.dat"), comment + sections);
@@ -167,8 +166,7 @@ TEST_P(FullDiskTest, OpeningAFileWithBareLineFeeds) {
                        {"open", "hourglass", "normal", "error: Error: 61 - Disk full"});
 }
 
-INSTANTIATE_TEST_SUITE_P(Both, FullDiskTest,
-                         ::testing::Values(TinyKind::FileSystem, TinyKind::Limit),
+INSTANTIATE_TEST_SUITE_P(Both, FullDiskTest, ::testing::Values(TinyKind::FileSystem, TinyKind::Limit),
                          [](const auto& kind) {
                            return kind.param == TinyKind::FileSystem ? "AFileSystem" : "ALimit";
                          });

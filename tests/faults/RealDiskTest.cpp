@@ -73,8 +73,7 @@ class RealDiskTest : public ::testing::Test {
   }
 
   const std::string kText = CrLf({"; Author: Ann", VehicleLineOf("BUS", "8")});
-  fs::path folder_ =
-      fs::temp_directory_path() / ("faults-" + std::to_string(std::random_device{}()));
+  fs::path folder_ = fs::temp_directory_path() / ("faults-" + std::to_string(std::random_device{}()));
   DiskFiles files;
   FakeDesktop desktop;
   EdgedSession s{desktop, files};
@@ -196,8 +195,8 @@ TEST_F(RealDiskTest, AFileThatFailsWhileItIsReadResetsTheWindow) {
   OpenAndEdit();
   s.Answer(true);
   s.Open(In("memory.cfg"), 1);
-  EXPECT_EQ(desktop.shown, (Texts{"question: E118", "open", "hourglass", "normal",
-                                  "error: Error: 57 - Device I/O error"}));
+  EXPECT_EQ(desktop.shown,
+            (Texts{"question: E118", "open", "hourglass", "normal", "error: Error: 57 - Device I/O error"}));
   ExpectState("7", "8", true, "");
   EXPECT_FALSE(s.main.cmdSave.IsEnabled());
 }

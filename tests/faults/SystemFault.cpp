@@ -90,9 +90,7 @@ int close(int file) {
 
 namespace wheelwright::testing {
 
-SystemFault::SystemFault(SystemCall call, int error, int time) {
-  Refusals()[call] = {error, time, 0};
-}
+SystemFault::SystemFault(SystemCall call, int error, int time) { Refusals()[call] = {error, time, 0}; }
 SystemFault::~SystemFault() { Refusals().clear(); }
 
 }  // namespace wheelwright::testing

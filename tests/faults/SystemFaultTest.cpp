@@ -50,8 +50,7 @@ class SystemFaultTest : public ::testing::Test {
   // "-" if there is none.
   std::string Left() const { return fs::exists(path_) ? files_.Read(path_) : "-"; }
 
-  fs::path folder_ =
-      fs::temp_directory_path() / ("system-" + std::to_string(std::random_device{}()));
+  fs::path folder_ = fs::temp_directory_path() / ("system-" + std::to_string(std::random_device{}()));
   std::string path_ = (folder_ / "handling.cfg").string();
   DiskFiles files_;
 };
@@ -81,17 +80,15 @@ struct Cell {
   const char* leftOfNone;
 };
 
-constexpr std::array<Cell, 6> kCells = {
-    {{"reserve", SystemCall::Fallocate, 1, "the old text", "-"},
-     {"write", SystemCall::Pwrite, 1, "the old text", ""},
-     {"cut", SystemCall::Ftruncate, 1, "new old text", "new"},
-     {"wait", SystemCall::Fsync, 1, "new", "new"},
-     {"wait for the folder", SystemCall::Fsync, 2, nullptr, "new"},
-     {"close", SystemCall::Close, 1, "new", nullptr}}};
+constexpr std::array<Cell, 6> kCells = {{{"reserve", SystemCall::Fallocate, 1, "the old text", "-"},
+                                         {"write", SystemCall::Pwrite, 1, "the old text", ""},
+                                         {"cut", SystemCall::Ftruncate, 1, "new old text", "new"},
+                                         {"wait", SystemCall::Fsync, 1, "new", "new"},
+                                         {"wait for the folder", SystemCall::Fsync, 2, nullptr, "new"},
+                                         {"close", SystemCall::Close, 1, "new", nullptr}}};
 
 TEST_F(SystemFaultTest, WhateverCallFailsTheWriteFails) {
-  for (const auto& [error, failure] :
-       {std::pair{ENOSPC, 61}, {EDQUOT, 61}, {EFBIG, 61}, {EIO, 57}}) {
+  for (const auto& [error, failure] : {std::pair{ENOSPC, 61}, {EDQUOT, 61}, {EFBIG, 61}, {EIO, 57}}) {
     for (const Cell& cell : kCells) {
       if (cell.leftOfOld != nullptr) {
         files_.Write(path_, "the old text");

@@ -13,8 +13,7 @@ namespace wheelwright::testing {
 namespace {
 
 bool Mount(const std::string& folder) {
-  return unshare(CLONE_NEWNS) == 0 &&
-         mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+  return unshare(CLONE_NEWNS) == 0 && mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
          mount("tiny", folder.c_str(), "tmpfs", 0, "size=256k") == 0;
 }
 

@@ -15,16 +15,15 @@ namespace fs = std::filesystem;
 using namespace std::string_literals;
 
 // None holds a blank, a comma or a mark of the formats, so that each comes through as a key.
-const std::vector<std::string> kHostileKeys = {
-    "../x",  "/etc/x",   "a/b",      "..",     ".",       "\0"s,  "BUS\0"s, "C:\\x",
-    "..\\x", "\\\\h\\s", "~/x",      "$HOME",  "*",       "?",    "con",    "x.bmp\0"s,
-    "<b>x",  "&#47etc",  "%2e%2e/x", "file:x", "gfx/BUS", "\xFF", "x\nb",   "-rf"};
+const std::vector<std::string> kHostileKeys = {"../x",     "/etc/x", "a/b",     "..",       ".",    "\0"s,
+                                               "BUS\0"s,   "C:\\x",  "..\\x",   "\\\\h\\s", "~/x",  "$HOME",
+                                               "*",        "?",      "con",     "x.bmp\0"s, "<b>x", "&#47etc",
+                                               "%2e%2e/x", "file:x", "gfx/BUS", "\xFF",     "x\nb", "-rf"};
 
 // What a key could reach if it were taken as a path.
 void PutTraps(FaultyFiles& files) {
-  for (const char* path :
-       {"/app/x.bmp", "/app/gfx/../x.bmp", "/etc/x.bmp", "/etc/x.jpg", "/app/gfx/a/b.bmp",
-        "/app/BUS.bmp", "/x.bmp", "/app/..bmp", "/app/.bmp", "/app/gfx/C/x.bmp"}) {
+  for (const char* path : {"/app/x.bmp", "/app/gfx/../x.bmp", "/etc/x.bmp", "/etc/x.jpg", "/app/gfx/a/b.bmp",
+                           "/app/BUS.bmp", "/x.bmp", "/app/..bmp", "/app/.bmp", "/app/gfx/C/x.bmp"}) {
     files.disk.contents[path] = "a trap";
   }
 }
@@ -87,16 +86,15 @@ TEST(VehicleKeysTest, AFilesOwnKeysComeFromItsLinesAsTheyAre) {
     EXPECT_EQ(s.main.cmbAutos.Rows(), Texts{key});
     Texts paths;
     for (const FileCall& call : s.files.calls) paths.push_back(call.path);
-    EXPECT_EQ(paths, (Texts{"", "/game/handling.cfg", "/game/handling.cfg", "/game/handling.cfg",
-                            "/app/gfx", "/app/gfx/nopictureavailable.jpg"}));
+    EXPECT_EQ(paths, (Texts{"", "/game/handling.cfg", "/game/handling.cfg", "/game/handling.cfg", "/app/gfx",
+                            "/app/gfx/nopictureavailable.jpg"}));
     s.Click(s.main.cmdSave);
     EXPECT_EQ(s.files.calls.back().path, "/game/handling.cfg");
   }
 }
 
 TEST(VehicleKeysTest, AKeyIsCutByNoZeroByteOnARealDisk) {
-  const fs::path folder =
-      fs::temp_directory_path() / ("keys-" + std::to_string(std::random_device{}()));
+  const fs::path folder = fs::temp_directory_path() / ("keys-" + std::to_string(std::random_device{}()));
   fs::create_directories(folder / "gfx");
   DiskFiles files;
   files.Write((folder / "gfx/BUS").string(), "a trap");

@@ -34,8 +34,7 @@ std::string Palette(std::initializer_list<std::string_view> colors) {
 
 // A text with a palette of two colours and these vehicles.
 std::string Vehicles(std::initializer_list<std::string_view> vehicles) {
-  return CrLf({"col", "1,2,3\t# 0 red", "4,5,6\t# 1 sky", "end", "car"}) + CrLf(vehicles) +
-         CrLf({"end"});
+  return CrLf({"col", "1,2,3\t# 0 red", "4,5,6\t# 1 sky", "end", "car"}) + CrLf(vehicles) + CrLf({"end"});
 }
 
 TEST(ColorReader, AColorWithoutATabIsBlackWhateverItSays) {
@@ -60,9 +59,8 @@ TEST(ColorReader, ACommentMarkBeforeTheTabBelongsToTheNumbers) {
 }
 
 TEST(ColorReader, TheNameIsTheThirdWordOfTheComment) {
-  const Read test(
-      Palette({"1,1,1\t# 7 navy blue", "1,1,1\t#\t8\t\tsea  green", "1,1,1\t#9 pine wood",
-               "1,1,1\t# oak", "1,1,1\t# old oak tree", "1,1,1\t## x y", "1,1,1\t#"}));
+  const Read test(Palette({"1,1,1\t# 7 navy blue", "1,1,1\t#\t8\t\tsea  green", "1,1,1\t#9 pine wood",
+                           "1,1,1\t# oak", "1,1,1\t# old oak tree", "1,1,1\t## x y", "1,1,1\t#"}));
   EXPECT_EQ(test.Colors(), (Texts{"0: 1,1,1 navy", "1: 1,1,1 sea", "2: 1,1,1 wood", "3: 1,1,1 ",
                                   "4: 1,1,1 oak", "5: 1,1,1 y", "6: 1,1,1 "}));
 }
@@ -124,20 +122,18 @@ TEST(ColorReader, WithoutColorsOrVehiclesOneEmptyRecordOfEachIsThere) {
 }
 
 TEST(ColorReader, OnlyTheFirstPaletteIsRead) {
-  const Read test(
-      CrLf({"col", "1,1,1\t# 0 oak", "end", "col", "2,2,2\t# 0 elm", "end", "car", "bus,0,0"}));
+  const Read test(CrLf({"col", "1,1,1\t# 0 oak", "end", "col", "2,2,2\t# 0 elm", "end", "car", "bus,0,0"}));
   EXPECT_EQ(test.Colors(), Texts{"0: 1,1,1 oak"});
 }
 
 TEST(ColorReader, AnEndBeforeThePaletteIsNoEnd) {
-  const Read test(
-      CrLf({"end", "col", "1,1,1\t# 0 oak", "ending", "2,2,2\t# 1 elm", "car", "bus,0,0"}));
+  const Read test(CrLf({"end", "col", "1,1,1\t# 0 oak", "ending", "2,2,2\t# 1 elm", "car", "bus,0,0"}));
   EXPECT_EQ(test.Colors(), Texts{"0: 1,1,1 oak"});
 }
 
 TEST(ColorReader, PaletteMarksAreTheFirstThreeCharactersWithCaseAndWithoutTrimming) {
-  const Read test(CrLf({"Col", " col", "9,9,9\t# 0 no", "colours of the bay", "1,1,1\t# 0 oak",
-                        " end#", "End of it", "end# here", "9,9,9\t# 3 no", "car", "bus,0,0"}));
+  const Read test(CrLf({"Col", " col", "9,9,9\t# 0 no", "colours of the bay", "1,1,1\t# 0 oak", " end#",
+                        "End of it", "end# here", "9,9,9\t# 3 no", "car", "bus,0,0"}));
   EXPECT_EQ(test.Colors(), (Texts{"0: 1,1,1 oak", "1: 0,0,0 ", "2: 0,0,0 Color 2"}));
 }
 
@@ -209,8 +205,8 @@ TEST(ColorReader, ALineOfBlanksOrACommentBehindABlankFailsTheLoad) {
 }
 
 TEST(ColorReader, VehiclesStandBetweenCarOrAnyLongerWordAndEnd) {
-  const Read test(CrLf({"car", "van,0,0", "end", "free, text", "col", "1,1,1\t# 0 oak", "end",
-                        "Car", " car", "cars of the bay", "bus,0,0", "ending", "x"}));
+  const Read test(CrLf({"car", "van,0,0", "end", "free, text", "col", "1,1,1\t# 0 oak", "end", "Car", " car",
+                        "cars of the bay", "bus,0,0", "ending", "x"}));
   EXPECT_EQ(test.Pairs(), (Texts{"van 0,0", "bus 0,0"}));
   EXPECT_EQ(test.pairs.damagedLine, std::nullopt);
 }
@@ -221,8 +217,7 @@ TEST(ColorReader, ALineThatBeginsWithCarInsideTheSectionIsAVehicle) {
 }
 
 TEST(ColorReader, VehicleMarksWithACommentBehindThemAreMarks) {
-  const Read test(
-      CrLf({"col", "1,1,1\t# 0 oak", "end", "car # vehicles", "bus,0,0", "end#", "free text"}));
+  const Read test(CrLf({"col", "1,1,1\t# 0 oak", "end", "car # vehicles", "bus,0,0", "end#", "free text"}));
   EXPECT_EQ(test.Pairs(), Texts{"bus 0,0"});
   EXPECT_EQ(test.pairs.damagedLine, std::nullopt);
 }

@@ -33,9 +33,7 @@ class Opened {
 };
 
 // A saved file: the banner, the lines and the line ends of the two writes.
-std::string File(std::initializer_list<std::string_view> lines) {
-  return kBanner + CrLf(lines) + "\r\n\r\n";
-}
+std::string File(std::initializer_list<std::string_view> lines) { return kBanner + CrLf(lines) + "\r\n\r\n"; }
 
 // A file with a palette section of these lines and one vehicle.
 std::string WithPalette(std::initializer_list<std::string_view> lines) {
@@ -61,8 +59,8 @@ TEST(ColorWriter, GivesShortNumbersFourTabsAndEightCharactersThree) {
 
 TEST(ColorWriter, NumbersTheColorsByTheirIndexAndCutsNamesToOneWord) {
   Opened test(WithPalette({"1,1,1\t# 17 oak light", "0,0,0", "2,2,2\t#9 elm"}));
-  EXPECT_EQ(test.Saved(), SavedWithPalette({"1,1,1\t\t\t\t# 0 oak", "0,0,0\t\t\t\t# 1 Color 1",
-                                            "2,2,2\t\t\t\t# 2 "}));
+  EXPECT_EQ(test.Saved(),
+            SavedWithPalette({"1,1,1\t\t\t\t# 0 oak", "0,0,0\t\t\t\t# 1 Color 1", "2,2,2\t\t\t\t# 2 "}));
 }
 
 TEST(ColorWriter, LeavesOutColorsWithANegativeIndex) {
@@ -87,8 +85,7 @@ TEST(ColorWriter, CopiesWhatLiesOutsideTheSectionsAsItStands) {
 
 TEST(ColorWriter, ClosesEveryLineWithCarriageReturnAndLineFeed) {
   Opened test("col\r1,1,1\t# 0 oak\rend\r\ncar\rbus,0,0\rend\rtail");
-  EXPECT_EQ(test.Saved(),
-            File({"col", "1,1,1\t\t\t\t# 0 oak", "end", "car", "bus, 0, 0", "end", "tail"}));
+  EXPECT_EQ(test.Saved(), File({"col", "1,1,1\t\t\t\t# 0 oak", "end", "car", "bus, 0, 0", "end", "tail"}));
 }
 
 TEST(ColorWriter, EachSaveAddsTwoEmptyLinesAtTheEnd) {
@@ -101,9 +98,8 @@ TEST(ColorWriter, EachSaveAddsTwoEmptyLinesAtTheEnd) {
 
 TEST(ColorWriter, DropsOldBannerLinesWhoseMarkStandsInTheFirstFiveCharacters) {
   const std::string late = "     # File created with Wheelwright V1.0.0\r\n";
-  Opened test("# File created with Wheelwright V0.9\r\n    # FILE created with wheelwright v\r\n" +
-              late + WithPalette({"1,1,1\t# 0 oak"}) +
-              "# HOMEPAGE: HTTPS://Wheelwright.Example/\r\n");
+  Opened test("# File created with Wheelwright V0.9\r\n    # FILE created with wheelwright v\r\n" + late +
+              WithPalette({"1,1,1\t# 0 oak"}) + "# HOMEPAGE: HTTPS://Wheelwright.Example/\r\n");
   EXPECT_EQ(test.Saved(), kBanner + late + WithPalette({"1,1,1\t\t\t\t# 0 oak"}) + "\r\n\r\n");
 }
 
@@ -114,23 +110,20 @@ TEST(ColorWriter, AnOldBannerLineInThePaletteGoesButStaysAColor) {
 
 TEST(ColorWriter, ShortRemarksOfThePaletteKeepTheirPlaceByItsFirstColor) {
   Opened test(WithPalette({"# A", "1,1,1\t# 0 oak", "# B", "2,2,2\t# 1 elm"}));
-  EXPECT_EQ(test.Saved(),
-            SavedWithPalette({"# A", "1,1,1\t\t\t\t# 0 oak", "2,2,2\t\t\t\t# 1 elm", "# B"}));
+  EXPECT_EQ(test.Saved(), SavedWithPalette({"# A", "1,1,1\t\t\t\t# 0 oak", "2,2,2\t\t\t\t# 1 elm", "# B"}));
 }
 
 TEST(ColorWriter, ALongRemarkOfThePaletteIsKeptAndBecomesOneMoreColorEachTime) {
   Opened test(WithPalette({"# old greys", "1,1,1\t# 0 oak"}));
   const std::string saved = test.Saved();
-  EXPECT_EQ(saved,
-            SavedWithPalette({"# old greys", "0,0,0\t\t\t\t# 0 greys", "1,1,1\t\t\t\t# 1 oak"}));
+  EXPECT_EQ(saved, SavedWithPalette({"# old greys", "0,0,0\t\t\t\t# 0 greys", "1,1,1\t\t\t\t# 1 oak"}));
   EXPECT_EQ(TextsOf(Opened(saved).palette.colors),
             (Texts{"0: 0,0,0 greys", "1: 0,0,0 greys", "2: 1,1,1 oak"}));
 }
 
 TEST(ColorWriter, AMarkAtTheFifthCharacterMakesAPaletteLineACommentAndAtTheSixthNot) {
   Opened fifth(WithPalette({"abcd# x y", "1,1,1\t# 0 oak"}));
-  EXPECT_EQ(fifth.Saved(),
-            SavedWithPalette({"abcd# x y", "0,0,0\t\t\t\t# 0 y", "1,1,1\t\t\t\t# 1 oak"}));
+  EXPECT_EQ(fifth.Saved(), SavedWithPalette({"abcd# x y", "0,0,0\t\t\t\t# 0 y", "1,1,1\t\t\t\t# 1 oak"}));
   Opened sixth(WithPalette({"abcde# x y", "1,1,1\t# 0 oak"}));
   EXPECT_EQ(sixth.Saved(), SavedWithPalette({"0,0,0\t\t\t\t# 0 y", "1,1,1\t\t\t\t# 1 oak"}));
 }
@@ -144,8 +137,7 @@ TEST(ColorWriter, APaletteOpenedWithAnEarlyMarkIsNeverSeenAndItsEditsAreLost) {
 TEST(ColorWriter, APaletteOpenedWithALateMarkIsSeen) {
   Opened test(CrLf({"col  # x", "1,1,1\t# 0 oak", "end", "car", "bus,0,0", "end"}));
   test.GiveTheFirstColorMoreRed();
-  EXPECT_EQ(test.Saved(),
-            File({"col  # x", "200,1,1\t\t\t\t# 0 oak", "end", "car", "bus, 0, 0", "end"}));
+  EXPECT_EQ(test.Saved(), File({"col  # x", "200,1,1\t\t\t\t# 0 oak", "end", "car", "bus, 0, 0", "end"}));
 }
 
 TEST(ColorWriter, APaletteEndWithAnEarlyMarkLetsTheNextEndDropTheVehiclesToo) {
@@ -160,24 +152,23 @@ TEST(ColorWriter, APaletteEndWithALateMarkEndsIt) {
 }
 
 TEST(ColorWriter, OnlyTheFirstPaletteIsRewritten) {
-  Opened test(CrLf(
-      {"col", "1,1,1\t# 0 oak", "end", "col", "2,2,2\t# 0 elm", "end", "car", "bus,0,0", "end"}));
-  EXPECT_EQ(test.Saved(), File({"col", "1,1,1\t\t\t\t# 0 oak", "end", "col", "2,2,2\t# 0 elm",
-                                "end", "car", "bus, 0, 0", "end"}));
+  Opened test(
+      CrLf({"col", "1,1,1\t# 0 oak", "end", "col", "2,2,2\t# 0 elm", "end", "car", "bus,0,0", "end"}));
+  EXPECT_EQ(test.Saved(), File({"col", "1,1,1\t\t\t\t# 0 oak", "end", "col", "2,2,2\t# 0 elm", "end", "car",
+                                "bus, 0, 0", "end"}));
 }
 
 TEST(ColorWriter, AVehicleOpenedWithACommentIsNeverSeenAndItsEditsAreLost) {
   Opened test(CrLf({"col", "1,1,1\t\t\t\t# 0 oak", "end", "car # all", "bus,0,0", "end"}));
   test.GiveTheFirstVehicleAPair();
-  EXPECT_EQ(test.Saved(),
-            File({"col", "1,1,1\t\t\t\t# 0 oak", "end", "car # all", "bus,0,0", "end"}));
+  EXPECT_EQ(test.Saved(), File({"col", "1,1,1\t\t\t\t# 0 oak", "end", "car # all", "bus,0,0", "end"}));
 }
 
 TEST(ColorWriter, AVehicleEndWithACommentEndsTheSectionForTheReaderOnly) {
-  Opened test(CrLf({"col", "1,1,1\t\t\t\t# 0 oak", "end", "car", "bus,0,0", "end # all", "text",
-                    "# kept", "end", "tail"}));
-  EXPECT_EQ(test.Saved(), File({"col", "1,1,1\t\t\t\t# 0 oak", "end", "car", "bus, 0, 0",
-                                "end # all", "# kept", "end", "tail"}));
+  Opened test(CrLf({"col", "1,1,1\t\t\t\t# 0 oak", "end", "car", "bus,0,0", "end # all", "text", "# kept",
+                    "end", "tail"}));
+  EXPECT_EQ(test.Saved(), File({"col", "1,1,1\t\t\t\t# 0 oak", "end", "car", "bus, 0, 0", "end # all",
+                                "# kept", "end", "tail"}));
 }
 
 TEST(ColorWriter, AVehicleWithACommentIsKeptAndWrittenOnceMore) {
@@ -198,22 +189,21 @@ TEST(ColorWriter, CommentsOfTheVehiclesKeepTheirPlaceByTheFirstOne) {
 
 TEST(ColorWriter, TheVehiclesStandInTheFirstOfSeveralSections) {
   Opened test(WithVehicles({"bus,0,0"}) + CrLf({"text", "car", "van,0,0", "end"}));
-  EXPECT_EQ(test.Saved(), kBanner + WithVehicles({"bus, 0, 0", "van, 0, 0"}) +
-                              CrLf({"text", "car", "end"}) + "\r\n\r\n");
+  EXPECT_EQ(test.Saved(),
+            kBanner + WithVehicles({"bus, 0, 0", "van, 0, 0"}) + CrLf({"text", "car", "end"}) + "\r\n\r\n");
 }
 
 TEST(ColorWriter, TheEmptyLineOfTheFirstWriteIsTheDataLineOfASectionWithoutEnd) {
   Opened test(CrLf({"col", "1,1,1\t\t\t\t# 0 oak", "end", "car", "bus,0,0 # mine"}));
-  EXPECT_EQ(test.Saved(),
-            kBanner +
-                CrLf({"col", "1,1,1\t\t\t\t# 0 oak", "end", "car", "bus,0,0 # mine", "bus, 0, 0"}) +
-                "\r\n");
+  EXPECT_EQ(
+      test.Saved(),
+      kBanner + CrLf({"col", "1,1,1\t\t\t\t# 0 oak", "end", "car", "bus,0,0 # mine", "bus, 0, 0"}) + "\r\n");
 }
 
 TEST(ColorWriter, TheSecondPassMakesNoBannerTest) {
   Opened test(WithVehicles({"bus,0,0"}) + "abcdefg # File created with Wheelwright V1\r\n");
-  EXPECT_EQ(test.Saved(), kBanner + WithVehicles({"bus, 0, 0"}) +
-                              "abcdefg # File created with Wheelwright V1\r\n\r\n\r\n");
+  EXPECT_EQ(test.Saved(),
+            kBanner + WithVehicles({"bus, 0, 0"}) + "abcdefg # File created with Wheelwright V1\r\n\r\n\r\n");
 }
 
 }  // namespace

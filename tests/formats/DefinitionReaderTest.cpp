@@ -10,8 +10,7 @@ namespace {
 
 // What reading a text leaves, and the number of the failure that ended it, 0 for none.
 struct Read : DefinitionFile {
-  explicit Read(const std::string& text)
-      : failure(NumberThrownBy([&] { ReadDefinitions(text, *this); })) {}
+  explicit Read(const std::string& text) : failure(NumberThrownBy([&] { ReadDefinitions(text, *this); })) {}
   int failure;
 };
 
@@ -26,9 +25,8 @@ TEST(DefinitionReader, NamesTheHandlingIdsInFileOrder) {
   const Read file(CrLf({"cars", "1,m,t,boat,RAFT,g,a,k,2,3,4", "2,m,t,boat,canoe,g,a,k,2,3,4",
                         "3,m,t,boat,DHOW,g,a,k,2,3,4", "end"}));
   EXPECT_EQ(file.names, (Texts{"RAFT", "canoe", "DHOW"}));
-  EXPECT_EQ(TextsOf(file.records),
-            (Texts{"1|m|t|boat|RAFT|g|a|k|2|3|4||", "2|m|t|boat|canoe|g|a|k|2|3|4||",
-                   "3|m|t|boat|DHOW|g|a|k|2|3|4||"}));
+  EXPECT_EQ(TextsOf(file.records), (Texts{"1|m|t|boat|RAFT|g|a|k|2|3|4||", "2|m|t|boat|canoe|g|a|k|2|3|4||",
+                                          "3|m|t|boat|DHOW|g|a|k|2|3|4||"}));
 }
 
 TEST(DefinitionReader, BlanksAndTabsInsideAFieldGoAndItsHalvesJoin) {
@@ -51,9 +49,8 @@ TEST(DefinitionReader, TwoCommasInARowGiveAnEmptyField) {
 TEST(DefinitionReader, TheTwelfthAndThirteenthFieldAreOptionalAndLaterOnesAreDropped) {
   const Read file(CrLf({"cars", "1,m,t,car,A,g,a,k,2,3,4,5", "1,m,t,car,B,g,a,k,2,3,4,5,6",
                         "1,m,t,car,C,g,a,k,2,3,4,5,6,7,8", "end"}));
-  EXPECT_EQ(TextsOf(file.records),
-            (Texts{"1|m|t|car|A|g|a|k|2|3|4|5|", "1|m|t|car|B|g|a|k|2|3|4|5|6",
-                   "1|m|t|car|C|g|a|k|2|3|4|5|6"}));
+  EXPECT_EQ(TextsOf(file.records), (Texts{"1|m|t|car|A|g|a|k|2|3|4|5|", "1|m|t|car|B|g|a|k|2|3|4|5|6",
+                                          "1|m|t|car|C|g|a|k|2|3|4|5|6"}));
 }
 
 TEST(DefinitionReader, TenFieldsAndACommaPassAsElevenWithAnEmptyLastOne) {
@@ -67,21 +64,19 @@ TEST(DefinitionReader, NineFieldsAndACommaAreTooFew) {
 }
 
 TEST(DefinitionReader, ARunOfCommasPassesAsEmptyFields) {
-  const Read file(
-      CrLf({"cars", "1,m,t,boat,H,,,,,,", ",,,,,,,,,,", "1,m,t,car,I,g,a,k,2,3,4,,,,", "end"}));
+  const Read file(CrLf({"cars", "1,m,t,boat,H,,,,,,", ",,,,,,,,,,", "1,m,t,car,I,g,a,k,2,3,4,,,,", "end"}));
   EXPECT_EQ(TextsOf(file.records),
             (Texts{"1|m|t|boat|H||||||||", "||||||||||||", "1|m|t|car|I|g|a|k|2|3|4||"}));
 }
 
 TEST(DefinitionReader, AWrittenLineThatEndsInACommaHasElevenFields) {
-  const Read file(
-      CrLf({"cars", "1,\tm,\t\tt,\t\tboat,\tH,\t\tg,\t\ta,\t\tk,\t\t2, \t3, \t4, \t", "end"}));
+  const Read file(CrLf({"cars", "1,\tm,\t\tt,\t\tboat,\tH,\t\tg,\t\ta,\t\tk,\t\t2, \t3, \t4, \t", "end"}));
   EXPECT_EQ(TextsOf(file.records), Texts{"1|m|t|boat|H|g|a|k|2|3|4||"});
 }
 
 TEST(DefinitionReader, IgnoresEverythingOutsideTheSection) {
-  const Read file(CrLf({"objs", "1, kiosk", "end", "", "cars", "1,m,t,boat,H,g,a,k,2,3,4", "end",
-                        "peds", "2, baker", "end"}));
+  const Read file(CrLf(
+      {"objs", "1, kiosk", "end", "", "cars", "1,m,t,boat,H,g,a,k,2,3,4", "end", "peds", "2, baker", "end"}));
   EXPECT_EQ(TextsOf(file.records), Texts{"1|m|t|boat|H|g|a|k|2|3|4||"});
 }
 
@@ -112,35 +107,30 @@ TEST(DefinitionReader, TheLineThatOpensTheSectionIsNoRecord) {
 
 TEST(DefinitionReader, ALineThatBeginsWithTheMarkInsideTheSectionIsARecord) {
   const Read file(CrLf({"cars", "cars,m,t,boat,A,g,a,k,2,3,4", "1,m,t,boat,H,g,a,k,2,3,4", "end"}));
-  EXPECT_EQ(TextsOf(file.records),
-            (Texts{"cars|m|t|boat|A|g|a|k|2|3|4||", "1|m|t|boat|H|g|a|k|2|3|4||"}));
+  EXPECT_EQ(TextsOf(file.records), (Texts{"cars|m|t|boat|A|g|a|k|2|3|4||", "1|m|t|boat|H|g|a|k|2|3|4||"}));
   const Read bare(CrLf({"cars", "cars", "end"}));
   EXPECT_EQ(bare.damagedLine, 2);
 }
 
 TEST(DefinitionReader, TheRecordsOfAllSectionsJoinInOneTable) {
-  const Read file(CrLf({"cars", "1,m,t,boat,H,g,a,k,2,3,4", "end", "free text", "cars",
-                        "2,m,t,boat,I,g,a,k,2,3,4", "end"}));
-  EXPECT_EQ(TextsOf(file.records),
-            (Texts{"1|m|t|boat|H|g|a|k|2|3|4||", "2|m|t|boat|I|g|a|k|2|3|4||"}));
+  const Read file(CrLf(
+      {"cars", "1,m,t,boat,H,g,a,k,2,3,4", "end", "free text", "cars", "2,m,t,boat,I,g,a,k,2,3,4", "end"}));
+  EXPECT_EQ(TextsOf(file.records), (Texts{"1|m|t|boat|H|g|a|k|2|3|4||", "2|m|t|boat|I|g|a|k|2|3|4||"}));
 }
 
 TEST(DefinitionReader, WithoutAnEndTheSectionReachesToTheEndOfTheFile) {
   const Read file("cars\r\n1,m,t,boat,H,g,a,k,2,3,4\r\n2,m,t,boat,I,g,a,k,2,3,4");
-  EXPECT_EQ(TextsOf(file.records),
-            (Texts{"1|m|t|boat|H|g|a|k|2|3|4||", "2|m|t|boat|I|g|a|k|2|3|4||"}));
+  EXPECT_EQ(TextsOf(file.records), (Texts{"1|m|t|boat|H|g|a|k|2|3|4||", "2|m|t|boat|I|g|a|k|2|3|4||"}));
 }
 
 TEST(DefinitionReader, ALineIsCutBeforeItsFirstCommentMark) {
   const Read file(
       CrLf({"cars", "1,m,t,boat,H,g,a,k,2,3,4 # a, b # c", "1,m,t,car,I,g,a,k,2,3,4#,5,6", "end"}));
-  EXPECT_EQ(TextsOf(file.records),
-            (Texts{"1|m|t|boat|H|g|a|k|2|3|4||", "1|m|t|car|I|g|a|k|2|3|4||"}));
+  EXPECT_EQ(TextsOf(file.records), (Texts{"1|m|t|boat|H|g|a|k|2|3|4||", "1|m|t|car|I|g|a|k|2|3|4||"}));
 }
 
 TEST(DefinitionReader, EmptyLinesAndCommentsInTheFirstColumnAreSkipped) {
-  const Read file(
-      CrLf({"cars", "", "# 1,m,t,boat,X,g,a,k,2,3,4", "#", "1,m,t,boat,H,g,a,k,2,3,4", "end"}));
+  const Read file(CrLf({"cars", "", "# 1,m,t,boat,X,g,a,k,2,3,4", "#", "1,m,t,boat,H,g,a,k,2,3,4", "end"}));
   EXPECT_EQ(TextsOf(file.records), Texts{"1|m|t|boat|H|g|a|k|2|3|4||"});
   EXPECT_EQ(file.damagedLine, std::nullopt);
 }
@@ -158,8 +148,7 @@ TEST(DefinitionReader, ALineOfBlanksOrTabsFailsTheLoad) {
 }
 
 TEST(DefinitionReader, MarksWithACommentBehindThemAreMarks) {
-  const Read file(
-      CrLf({"cars # vehicles", "1,m,t,boat,H,g,a,k,2,3,4", "end# of them", "not a record"}));
+  const Read file(CrLf({"cars # vehicles", "1,m,t,boat,H,g,a,k,2,3,4", "end# of them", "not a record"}));
   EXPECT_EQ(TextsOf(file.records), Texts{"1|m|t|boat|H|g|a|k|2|3|4||"});
   EXPECT_EQ(file.damagedLine, std::nullopt);
 }
@@ -183,8 +172,7 @@ TEST(DefinitionReader, ADamagedLineLeavesWhatStoodBeforeIt) {
 }
 
 TEST(DefinitionReader, AFileWithoutARecordLeavesOneEmptyRecordWithoutAName) {
-  for (const std::string& text :
-       {CrLf({"cars", "# none", "end"}), CrLf({"objs", "end"}), std::string()}) {
+  for (const std::string& text : {CrLf({"cars", "# none", "end"}), CrLf({"objs", "end"}), std::string()}) {
     const Read file(text);
     EXPECT_EQ(TextsOf(file.records), Texts{"||||||||||||"});
     EXPECT_EQ(file.names, Texts{});

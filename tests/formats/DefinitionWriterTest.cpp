@@ -28,13 +28,10 @@ class Opened {
 };
 
 // A saved file: the banner, the lines and the line end of the final write.
-std::string File(std::initializer_list<std::string_view> lines) {
-  return kBanner + CrLf(lines) + "\r\n";
-}
+std::string File(std::initializer_list<std::string_view> lines) { return kBanner + CrLf(lines) + "\r\n"; }
 
 TEST(DefinitionWriter, WritesACarWithBothExtras) {
-  Opened test(
-      CrLf({"cars", "131,harrow,hartex,car,HARROW,HARNAME,null,normal,10,7,3f,250,0.8", "end"}));
+  Opened test(CrLf({"cars", "131,harrow,hartex,car,HARROW,HARNAME,null,normal,10,7,3f,250,0.8", "end"}));
   EXPECT_EQ(test.Saved(),
             File({"cars",
                   "131,\tharrow,\t\thartex,\t\tcar,\tHARROW,\t\tHARNAME,\tnull,\t\tnormal,\t\t10, "
@@ -44,9 +41,8 @@ TEST(DefinitionWriter, WritesACarWithBothExtras) {
 
 TEST(DefinitionWriter, WritesAPlaneWithItsFirstExtraOnly) {
   Opened test(CrLf({"cars", "1,m,t,plane,H,g,a,k,2,3,4,-1,9", "end"}));
-  EXPECT_EQ(
-      test.Saved(),
-      File({"cars", "1,\tm,\t\tt,\t\tplane,\tH,\t\tg,\t\ta,\t\tk,\t\t2, \t3, \t4, \t-1", "end"}));
+  EXPECT_EQ(test.Saved(),
+            File({"cars", "1,\tm,\t\tt,\t\tplane,\tH,\t\tg,\t\ta,\t\tk,\t\t2, \t3, \t4, \t-1", "end"}));
 }
 
 TEST(DefinitionWriter, WritesNoExtraForAnyOtherTypeAlsoNotForOneInCapitals) {
@@ -54,16 +50,14 @@ TEST(DefinitionWriter, WritesNoExtraForAnyOtherTypeAlsoNotForOneInCapitals) {
     Opened test(CrLf({"cars", "1,m,t," + type + ",H,g,a,k,2,3,4,250,0.7", "end"}));
     EXPECT_EQ(
         test.Saved(),
-        File({"cars", "1,\tm,\t\tt,\t\t" + type + ",\tH,\t\tg,\t\ta,\t\tk,\t\t2, \t3, \t4, \t",
-              "end"}));
+        File({"cars", "1,\tm,\t\tt,\t\t" + type + ",\tH,\t\tg,\t\ta,\t\tk,\t\t2, \t3, \t4, \t", "end"}));
   }
 }
 
 TEST(DefinitionWriter, ACarWithoutExtrasStillGetsTheirSeparator) {
   Opened test(CrLf({"cars", "1,m,t,car,H,g,a,k,2,3,4", "end"}));
-  EXPECT_EQ(
-      test.Saved(),
-      File({"cars", "1,\tm,\t\tt,\t\tcar,\tH,\t\tg,\t\ta,\t\tk,\t\t2, \t3, \t4, \t, \t", "end"}));
+  EXPECT_EQ(test.Saved(),
+            File({"cars", "1,\tm,\t\tt,\t\tcar,\tH,\t\tg,\t\ta,\t\tk,\t\t2, \t3, \t4, \t, \t", "end"}));
 }
 
 TEST(DefinitionWriter, SixCharactersGetAnExtraTabAndSevenDoNot) {
@@ -80,8 +74,7 @@ TEST(DefinitionWriter, SixCharactersGetAnExtraTabAndSevenDoNot) {
 
 TEST(DefinitionWriter, EmptyFieldsKeepTheirSeparators) {
   Opened test(CrLf({"cars", ",,,,,,,,,,", "end"}));
-  EXPECT_EQ(test.Saved(),
-            File({"cars", ",\t,\t\t,\t\t,\t,\t\t,\t\t,\t\t,\t\t, \t, \t, \t", "end"}));
+  EXPECT_EQ(test.Saved(), File({"cars", ",\t,\t\t,\t\t,\t,\t\t,\t\t,\t\t,\t\t, \t, \t, \t", "end"}));
 }
 
 TEST(DefinitionWriter, PutsTheTableInFileOrderWhereTheFirstDataLineStood) {
@@ -95,10 +88,10 @@ TEST(DefinitionWriter, AnEmptyLineOfTheSectionIsItsFirstDataLineToo) {
 }
 
 TEST(DefinitionWriter, CopiesWhatLiesOutsideTheSectionAsItStands) {
-  Opened test(CrLf({"", " objs\t", "20, kiosk ,\t1", "end", "cars", Boat("H"), "end", "  ", "\t",
-                    "# \xFC", "\x01\xFF", " cars", "Cars", "END"}));
-  EXPECT_EQ(test.Saved(), File({"", " objs\t", "20, kiosk ,\t1", "end", "cars", WrittenBoat("H"),
-                                "end", "  ", "\t", "# \xFC", "\x01\xFF", " cars", "Cars", "END"}));
+  Opened test(CrLf({"", " objs\t", "20, kiosk ,\t1", "end", "cars", Boat("H"), "end", "  ", "\t", "# \xFC",
+                    "\x01\xFF", " cars", "Cars", "END"}));
+  EXPECT_EQ(test.Saved(), File({"", " objs\t", "20, kiosk ,\t1", "end", "cars", WrittenBoat("H"), "end", "  ",
+                                "\t", "# \xFC", "\x01\xFF", " cars", "Cars", "END"}));
 }
 
 TEST(DefinitionWriter, ClosesEveryLineWithCarriageReturnAndLineFeed) {
@@ -114,26 +107,24 @@ TEST(DefinitionWriter, EachSaveAddsOneEmptyLineAtTheEnd) {
 }
 
 TEST(DefinitionWriter, DropsOldBannerLinesWhereverTheyStand) {
-  Opened test(
-      CrLf({"# File created with Wheelwright V0.9.1", "# HOMEPAGE: HTTPS://Wheelwright.Example/",
-            "cars", "# file CREATED with wheelwright v", Boat("H"), "end",
-            "# old: # File created with Wheelwright V1.0.0, kept",
-            "# Homepage: https://wheelwright.example/ and more"}));
+  Opened test(CrLf({"# File created with Wheelwright V0.9.1", "# HOMEPAGE: HTTPS://Wheelwright.Example/",
+                    "cars", "# file CREATED with wheelwright v", Boat("H"), "end",
+                    "# old: # File created with Wheelwright V1.0.0, kept",
+                    "# Homepage: https://wheelwright.example/ and more"}));
   EXPECT_EQ(test.Saved(), File({"cars", WrittenBoat("H"), "end"}));
 }
 
 TEST(DefinitionWriter, KeepsCommentsThatOnlyResembleTheBanner) {
   Opened test(CrLf({"# File created with Wheelwright", "#File created with Wheelwright V1.0.0",
                     "# Homepage: https://other.example/", "cars", Boat("H"), "end"}));
-  EXPECT_EQ(test.Saved(),
-            File({"# File created with Wheelwright", "#File created with Wheelwright V1.0.0",
-                  "# Homepage: https://other.example/", "cars", WrittenBoat("H"), "end"}));
+  EXPECT_EQ(test.Saved(), File({"# File created with Wheelwright", "#File created with Wheelwright V1.0.0",
+                                "# Homepage: https://other.example/", "cars", WrittenBoat("H"), "end"}));
 }
 
 TEST(DefinitionWriter, CommentsOfTheSectionKeepTheirPlaceByItsFirstDataLine) {
   Opened test(CrLf({"cars", "# before", Boat("A"), "# between", Boat("B"), "# behind", "end"}));
-  EXPECT_EQ(test.Saved(), File({"cars", "# before", WrittenBoat("A"), WrittenBoat("B"), "# between",
-                                "# behind", "end"}));
+  EXPECT_EQ(test.Saved(),
+            File({"cars", "# before", WrittenBoat("A"), WrittenBoat("B"), "# between", "# behind", "end"}));
 }
 
 TEST(DefinitionWriter, AVehicleWithACommentStandsOnceMoreAfterEachLoadAndSave) {
@@ -142,8 +133,8 @@ TEST(DefinitionWriter, AVehicleWithACommentStandsOnceMoreAfterEachLoadAndSave) {
   const std::string once = test.Saved();
   EXPECT_EQ(once, File({"cars", commented, WrittenBoat("H"), WrittenBoat("I"), "end"}));
   Opened again(once);
-  EXPECT_EQ(again.Saved(), File({"cars", commented, WrittenBoat("H"), WrittenBoat("H"),
-                                 WrittenBoat("I"), "end", ""}));
+  EXPECT_EQ(again.Saved(),
+            File({"cars", commented, WrittenBoat("H"), WrittenBoat("H"), WrittenBoat("I"), "end", ""}));
 }
 
 TEST(DefinitionWriter, ASectionOpenedWithACommentIsNeverSeenAndItsEditsAreLost) {
@@ -153,10 +144,8 @@ TEST(DefinitionWriter, ASectionOpenedWithACommentIsNeverSeenAndItsEditsAreLost) 
 }
 
 TEST(DefinitionWriter, ASectionEndWithACommentDoesNotEndItForTheWriter) {
-  Opened test(
-      CrLf({"cars", Boat("H"), "end # vehicles", "peds", "# kept", "2, baker", "end", "path"}));
-  EXPECT_EQ(test.Saved(),
-            File({"cars", WrittenBoat("H"), "end # vehicles", "# kept", "end", "path"}));
+  Opened test(CrLf({"cars", Boat("H"), "end # vehicles", "peds", "# kept", "2, baker", "end", "path"}));
+  EXPECT_EQ(test.Saved(), File({"cars", WrittenBoat("H"), "end # vehicles", "# kept", "end", "path"}));
 }
 
 TEST(DefinitionWriter, WithoutAnotherEndEverythingUpToTheEndOfTheFileIsDropped) {
@@ -178,8 +167,8 @@ TEST(DefinitionWriter, AnEmptySectionGetsNoTable) {
 
 TEST(DefinitionWriter, TheTableStandsInTheFirstOfSeveralSections) {
   Opened test(CrLf({"cars", Boat("A"), "end", "text", "cars", "# kept", Boat("B"), "end"}));
-  EXPECT_EQ(test.Saved(), File({"cars", WrittenBoat("A"), WrittenBoat("B"), "end", "text", "cars",
-                                "# kept", "end"}));
+  EXPECT_EQ(test.Saved(),
+            File({"cars", WrittenBoat("A"), WrittenBoat("B"), "end", "text", "cars", "# kept", "end"}));
 }
 
 TEST(DefinitionWriter, AnEmptyFirstSectionLeavesTheTableToTheSecond) {
@@ -189,9 +178,9 @@ TEST(DefinitionWriter, AnEmptyFirstSectionLeavesTheTableToTheSecond) {
 
 TEST(DefinitionWriter, LongerWordsThatBeginWithTheMarksAreMarks) {
   Opened test(CrLf({"carsten", Boat("H"), "cars,m,t,boat,I,g,a,k,2,3,4", "endless", "text"}));
-  EXPECT_EQ(test.Saved(), File({"carsten", WrittenBoat("H"),
-                                "cars,\tm,\t\tt,\t\tboat,\tI,\t\tg,\t\ta,\t\tk,\t\t2, \t3, \t4, \t",
-                                "endless", "text"}));
+  EXPECT_EQ(test.Saved(),
+            File({"carsten", WrittenBoat("H"),
+                  "cars,\tm,\t\tt,\t\tboat,\tI,\t\tg,\t\ta,\t\tk,\t\t2, \t3, \t4, \t", "endless", "text"}));
 }
 
 }  // namespace

@@ -45,9 +45,7 @@ WrittenVehicles WrittenAgain(const HandlingFile& file) {
   return {file.names, file.cars, file.author, file.created};
 }
 
-bool Holds(const std::string& text, const std::string& part) {
-  return text.find(part) != std::string::npos;
-}
+bool Holds(const std::string& text, const std::string& part) { return text.find(part) != std::string::npos; }
 
 constexpr std::string_view kHandlingsOwn = "\t\n\r ;%!$";
 
@@ -71,8 +69,7 @@ TEST(EveryByteTest, GoesThroughAuthorAndDateAndStandsInACommentAsItWas) {
   for (const char byte : BytesBut("\n\r ")) {
     const std::string author = TextWith(byte, 1);
     const std::string date = TextWith(byte, 2);
-    const std::string head =
-        CrLf({"; Author: " + author, "; Created " + date, ";" + TextWith(byte, 3)});
+    const std::string head = CrLf({"; Author: " + author, "; Created " + date, ";" + TextWith(byte, 3)});
     HandlingFile file;
     ReadHandling(head, file);
     EXPECT_EQ(file.author, author) << static_cast<int>(byte);

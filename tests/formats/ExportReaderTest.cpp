@@ -58,8 +58,7 @@ TEST(ExportReaderTest, NewNamesAreComparedWithCaseAndStandOnceInTheList) {
 }
 
 TEST(ExportReaderTest, RecordsComeInTheOrderOfTheFile) {
-  EXPECT_EQ(Imported(CrLf({VehicleLineOf("VAN"), VehicleLineOf("CAB")})).Names(),
-            (Texts{"VAN", "CAB"}));
+  EXPECT_EQ(Imported(CrLf({VehicleLineOf("VAN"), VehicleLineOf("CAB")})).Names(), (Texts{"VAN", "CAB"}));
 }
 
 TEST(ExportReaderTest, ARecordHasNoLineKindWhateverTheMark) {
@@ -69,8 +68,7 @@ TEST(ExportReaderTest, ARecordHasNoLineKindWhateverTheMark) {
 }
 
 TEST(ExportReaderTest, CommentsAreNotCutOff) {
-  EXPECT_EQ(Imported(VehicleLineOf("VAN") + " 7 ; remark\r\n").problems,
-            LineProblems{WrongCount("VAN", 36)});
+  EXPECT_EQ(Imported(VehicleLineOf("VAN") + " 7 ; remark\r\n").problems, LineProblems{WrongCount("VAN", 36)});
   EXPECT_EQ(Imported(CrLf({"BUS;           the old one"})).Names(), Texts{"BUS;"});
 }
 
@@ -111,21 +109,18 @@ TEST(ExportReaderTest, AnEmptyNameTakesEveryLine) {
 TEST(ExportReaderTest, NamesBehindTheFirstHitMeetTheCleanedLine) {
   EXPECT_EQ(Imported(CrLf({"              1", "  BUS  7"})).Names(), (Texts{"1", "BUS", "BUS"}));
   EXPECT_EQ(Imported(CrLf({"MAIL  VAN 7"}), "MAIL  VAN").Names(), Texts{"MAIL"});
-  EXPECT_EQ(Imported(CrLf({"MAIL          1", "MAIL  VAN 7"}), "MAIL  VAN").Names(),
-            (Texts{"MAIL", "MAIL"}));
+  EXPECT_EQ(Imported(CrLf({"MAIL          1", "MAIL  VAN 7"}), "MAIL  VAN").Names(), (Texts{"MAIL", "MAIL"}));
   EXPECT_EQ(Imported(CrLf({"BUS\t1500.0\t1.9\t4.6"})).Names(), Texts{"BUS"});
 }
 
 TEST(ExportReaderTest, ALongNameIsCutInTheListOnly) {
-  const Imported imported(
-      CrLf({VehicleLineOf("FIFTEENLETTERSX"), VehicleLineOf("FOURTEENLETTER")}));
+  const Imported imported(CrLf({VehicleLineOf("FIFTEENLETTERSX"), VehicleLineOf("FOURTEENLETTER")}));
   EXPECT_EQ(imported.list, (Texts{"BUS", "FIFTEENLETTERS", "FOURTEENLETTER"}));
   EXPECT_EQ(imported.Names(), (Texts{"FIFTEENLETTERSX", "FOURTEENLETTER"}));
 }
 
 TEST(ExportReaderTest, ACarriageReturnEndsALineAndALineFeedAloneNone) {
-  const Imported imported(VehicleLineOf("VAN") + "\n" + VehicleLineOf("CAB") + "\r" +
-                          VehicleLineOf("AXO"));
+  const Imported imported(VehicleLineOf("VAN") + "\n" + VehicleLineOf("CAB") + "\r" + VehicleLineOf("AXO"));
   EXPECT_EQ(imported.Names(), (Texts{"VAN", "AXO"}));
   EXPECT_EQ(imported.cars.At(1).RearLights, "1\nCAB");
 }

@@ -17,9 +17,7 @@ class ExportWriterTest : public ::testing::Test {
   WrittenVehicles Vehicles() const { return {names, cars, author, created}; }
 
   // The lines of an export behind its head.
-  std::string Data() const {
-    return WriteExport(Vehicles()).substr(ExportHeader(Vehicles()).size());
-  }
+  std::string Data() const { return WriteExport(Vehicles()).substr(ExportHeader(Vehicles()).size()); }
 
   Texts names;
   Table<Car> cars;
@@ -30,12 +28,11 @@ class ExportWriterTest : public ::testing::Test {
 TEST_F(ExportWriterTest, TheVehiclesStandBetweenAHeadAndAnEnd) {
   names = {"BUS", "TAXI"};
   cars = TableOf(std::vector<Car>{Vehicle("TAXI"), Vehicle("BUS", "5500.0")});
-  EXPECT_EQ(
-      WriteExport(Vehicles()),
-      CrLf({"; File created with Wheelwright V1.0.0", "; Homepage: https://wheelwright.example/",
-            "; Author: Mira K\xF6nig", "; Created 14 March 2004", ";", "; > COMMENTS <",
-            "; ------------", "; TWEAK AT YOUR OWN RISK", ";", "; > THE DATA <", "; ------------",
-            ";", VehicleLineOf("BUS", "5500.0"), VehicleLineOf("TAXI"), ";", ";the end"}));
+  EXPECT_EQ(WriteExport(Vehicles()),
+            CrLf({"; File created with Wheelwright V1.0.0", "; Homepage: https://wheelwright.example/",
+                  "; Author: Mira K\xF6nig", "; Created 14 March 2004", ";", "; > COMMENTS <",
+                  "; ------------", "; TWEAK AT YOUR OWN RISK", ";", "; > THE DATA <", "; ------------", ";",
+                  VehicleLineOf("BUS", "5500.0"), VehicleLineOf("TAXI"), ";", ";the end"}));
 }
 
 TEST_F(ExportWriterTest, ANameGivesALineForEachRecordThatBearsItWithCase) {

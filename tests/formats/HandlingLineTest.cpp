@@ -14,8 +14,7 @@ std::string TokenThatBreaks(TokenCheck check) {
 
 // A token and the problems with it.
 struct Parsed {
-  Parsed(const std::string& line, int index)
-      : token(ParseHandlingToken(SpaceLine(line), index, problems)) {}
+  Parsed(const std::string& line, int index) : token(ParseHandlingToken(SpaceLine(line), index, problems)) {}
 
   LineProblems problems;
   std::string token;
@@ -92,8 +91,7 @@ TEST(HandlingLineTest, EachFormOfNumberPassesTheCheckAndNothingElse) {
     EXPECT_EQ(Parsed(std::string("BUS ") + number, 1).problems, LineProblems{}) << number;
   }
   for (const char* text : {"-", ".", "1.9.1", "1e", "19500,-", "0x10", "1\xA0"}) {
-    EXPECT_EQ(Parsed(std::string("BUS ") + text, 1).problems, LineProblems{BadToken("BUS", 1)})
-        << text;
+    EXPECT_EQ(Parsed(std::string("BUS ") + text, 1).problems, LineProblems{BadToken("BUS", 1)}) << text;
   }
 }
 

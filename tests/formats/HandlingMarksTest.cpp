@@ -12,8 +12,7 @@ TEST_F(HandlingMarksTest, PercentMarksTheRecordOfThatName) {
 }
 
 TEST_F(HandlingMarksTest, TheOtherMarksGoToTheRecordAtTheListPosition) {
-  Read(CrLf({VehicleLineOf("TAXI"), VehicleLineOf("BIKE"), VehicleLineOf("PLANE"), "! BIKE 0.5",
-             "$ TAXI"}));
+  Read(CrLf({VehicleLineOf("TAXI"), VehicleLineOf("BIKE"), VehicleLineOf("PLANE"), "! BIKE 0.5", "$ TAXI"}));
   EXPECT_EQ(Listed(), (Names{"BIKE", "PLANE", "TAXI"}));
   EXPECT_EQ(Marked(), (Kinds{2, 0, 3}));
 }
@@ -89,8 +88,7 @@ TEST_F(HandlingMarksTest, TheOtherMarksFailOnlyBehindTheRecordsMadeSoFar) {
 }
 
 TEST_F(HandlingMarksTest, AFailureLeavesWhatWasReadUntilThen) {
-  EXPECT_EQ(FailureOf(CrLf({"; Author: Ada", "TAXI 1500.0 2.60", "% BOAT", VehicleLineOf("BOAT")})),
-            9);
+  EXPECT_EQ(FailureOf(CrLf({"; Author: Ada", "TAXI 1500.0 2.60", "% BOAT", VehicleLineOf("BOAT")})), 9);
   EXPECT_EQ(Listed(), (Names{"BOAT", "TAXI"}));
   EXPECT_EQ(Recorded(), (Names{"TAXI"}));
   EXPECT_EQ(file.author, "Ada");

@@ -190,10 +190,10 @@ TEST_F(HandlingReaderTest, TokensTooManyAreAProblemAndTheFirst33Count) {
 }
 
 TEST_F(HandlingReaderTest, ProblemsComeInTheOrderOfTheLines) {
-  Read(CrLf({Joined(TokensWith("TAXI", 2, "wide")), "BUS heavy        ",
-             Joined(TokensWith("BIKE", 32, "red"))}));
-  EXPECT_EQ(file.problems, (LineProblems{BadToken("TAXI", 2), WrongCount("BUS", 2),
-                                         BadToken("BUS", 1), BadToken("BIKE", 32)}));
+  Read(CrLf(
+      {Joined(TokensWith("TAXI", 2, "wide")), "BUS heavy        ", Joined(TokensWith("BIKE", 32, "red"))}));
+  EXPECT_EQ(file.problems, (LineProblems{BadToken("TAXI", 2), WrongCount("BUS", 2), BadToken("BUS", 1),
+                                         BadToken("BIKE", 32)}));
 }
 
 TEST_F(HandlingReaderTest, ABadTokenIsKept) {

@@ -50,10 +50,9 @@ TEST_F(HandlingWriterTest, AnOldBannerIsDroppedWhateverItsVersionAndCase) {
 }
 
 TEST_F(HandlingWriterTest, AnOldHomePageIsDroppedAndAnotherStays) {
-  EXPECT_EQ(
-      Rewrite(CrLf({"; HOMEPAGE: HTTPS://wheelwright.example/ and more",
-                    "; Homepage: https://elsewhere.example/", "; Homepage:"})),
-      kHandlingBanner + "; Homepage: https://elsewhere.example/\r\n; Homepage:\r\n" + kTheEnd);
+  EXPECT_EQ(Rewrite(CrLf({"; HOMEPAGE: HTTPS://wheelwright.example/ and more",
+                          "; Homepage: https://elsewhere.example/", "; Homepage:"})),
+            kHandlingBanner + "; Homepage: https://elsewhere.example/\r\n; Homepage:\r\n" + kTheEnd);
 }
 
 TEST_F(HandlingWriterTest, ABannerOfAnotherMarkStays) {
@@ -86,8 +85,8 @@ TEST_F(HandlingWriterTest, ABlankInTheEndMakesItNone) {
 TEST_F(HandlingWriterTest, TheFirstVehicleLineGivesWayToAllVehiclesAndTheOthersGo) {
   Hold({kTaxi, kBus});
   EXPECT_EQ(Rewrite(CrLf({"; a", VehicleLineOf("VAN"), "; b", VehicleLineOf("BUS"), "; c"})),
-            kHandlingBanner + "; a\r\n" +
-                CrLf({VehicleLineOf("BUS"), VehicleLineOf("TAXI"), "; b", "; c"}) + kTheEnd);
+            kHandlingBanner + "; a\r\n" + CrLf({VehicleLineOf("BUS"), VehicleLineOf("TAXI"), "; b", "; c"}) +
+                kTheEnd);
 }
 
 TEST_F(HandlingWriterTest, AnEmptyLineTakesTheVehiclesAndLaterOnesVanish) {
@@ -109,10 +108,9 @@ TEST_F(HandlingWriterTest, MarksBehindTheHeadDontKeepALine) {
 }
 
 TEST_F(HandlingWriterTest, AMarkInTheLastColumnOfTheHeadKeepsALine) {
-  EXPECT_EQ(Rewrite(CrLf({"1234567890123;", "1234567890123%", "1234567890123!", "1234567890123$"})),
-            kHandlingBanner +
-                "1234567890123;\r\n1234567890123%\r\n1234567890123!\r\n1234567890123$\r\n" +
-                kTheEnd);
+  EXPECT_EQ(
+      Rewrite(CrLf({"1234567890123;", "1234567890123%", "1234567890123!", "1234567890123$"})),
+      kHandlingBanner + "1234567890123;\r\n1234567890123%\r\n1234567890123!\r\n1234567890123$\r\n" + kTheEnd);
 }
 
 TEST_F(HandlingWriterTest, SpecialLinesAreCopiedAsTheyStand) {
@@ -138,10 +136,9 @@ TEST_F(HandlingWriterTest, AuthorBeforeTheSemicolonIsnt) {
 }
 
 TEST_F(HandlingWriterTest, DateIsReplaced) {
-  EXPECT_EQ(Rewrite(CrLf({"; CREATED in 1999", ";; created", "; Createdness"})),
-            kHandlingBanner +
-                "; Created 1 May 2003\r\n; Created 1 May 2003\r\n; Created 1 May 2003\r\n" +
-                kTheEnd);
+  EXPECT_EQ(
+      Rewrite(CrLf({"; CREATED in 1999", ";; created", "; Createdness"})),
+      kHandlingBanner + "; Created 1 May 2003\r\n; Created 1 May 2003\r\n; Created 1 May 2003\r\n" + kTheEnd);
 }
 
 TEST_F(HandlingWriterTest, DateNeedsExactlyOneBlankBehindTheSemicolon) {
@@ -150,8 +147,7 @@ TEST_F(HandlingWriterTest, DateNeedsExactlyOneBlankBehindTheSemicolon) {
 }
 
 TEST_F(HandlingWriterTest, AuthorComesBeforeDate) {
-  EXPECT_EQ(Rewrite(CrLf({"; Created by the author: Bob"})),
-            kHandlingBanner + "; Author: Ada\r\n" + kTheEnd);
+  EXPECT_EQ(Rewrite(CrLf({"; Created by the author: Bob"})), kHandlingBanner + "; Author: Ada\r\n" + kTheEnd);
 }
 
 TEST_F(HandlingWriterTest, AuthorAndDateComeBeforeTheBanner) {
@@ -185,8 +181,7 @@ TEST_F(HandlingWriterTest, EveryLineOfTheTemplateEndsInBothCharacters) {
 TEST_F(HandlingWriterTest, VehiclesComeInTheOrderOfTheList) {
   Hold({CarOf(GoodTokens("bus")), CarOf(GoodTokens("TAXI")), CarOf(GoodTokens("COACH"))});
   EXPECT_EQ(Rewrite(CrLf({""})),
-            kHandlingBanner +
-                CrLf({VehicleLineOf("bus"), VehicleLineOf("COACH"), VehicleLineOf("TAXI")}) +
+            kHandlingBanner + CrLf({VehicleLineOf("bus"), VehicleLineOf("COACH"), VehicleLineOf("TAXI")}) +
                 kTheEnd);
 }
 
@@ -201,8 +196,7 @@ TEST_F(HandlingWriterTest, AListOutOfOrderIsWrittenAsItStands) {
 TEST_F(HandlingWriterTest, ANameThatTwoRecordsShareWritesTwoLinesForEachListPosition) {
   Hold({CarOf(TokensWith("BUS", 1, "1.0")), kTaxi, CarOf(TokensWith("BUS", 1, "2.0"))});
   const std::string both = CrLf({VehicleLineOf("BUS", "1.0"), VehicleLineOf("BUS", "2.0")});
-  EXPECT_EQ(Rewrite(CrLf({""})),
-            kHandlingBanner + both + both + VehicleLineOf("TAXI") + "\r\n" + kTheEnd);
+  EXPECT_EQ(Rewrite(CrLf({""})), kHandlingBanner + both + both + VehicleLineOf("TAXI") + "\r\n" + kTheEnd);
 }
 
 TEST_F(HandlingWriterTest, ARecordWithoutAListEntryDisappears) {
@@ -242,22 +236,20 @@ TEST_F(HandlingWriterTest, LongerValuesAreWrittenWhole) {
   tokens[1] = "12345.678";
   tokens[25] = "1234567";
   Hold({CarOf(tokens)});
-  EXPECT_EQ(
-      Rewrite(CrLf({""})),
-      kHandlingBanner +
-          "FIFTEENLETTERS! 12345.678 x x x x x x x x x x x x x x x x x x x x x x x 1234567 x x "
-          "x x x x x\r\n" +
-          kTheEnd);
+  EXPECT_EQ(Rewrite(CrLf({""})),
+            kHandlingBanner +
+                "FIFTEENLETTERS! 12345.678 x x x x x x x x x x x x x x x x x x x x x x x 1234567 x x "
+                "x x x x x\r\n" +
+                kTheEnd);
 }
 
 TEST_F(HandlingWriterTest, AnEmptySlotWritesTwoBlanksInARow) {
   Hold({CarOf(TokensWith("BUS", 3, ""))});
-  EXPECT_EQ(
-      Rewrite(CrLf({""})),
-      kHandlingBanner +
-          "BUS             1500.0 1.9  1.5 0.0 0.1 -0.2 80 0.70 0.75 0.51 5 160.0 20.0 R P 6.1 "
-          "0.60 0 35.0 1.6 0.08 0.20 0.50   9000 0.35 -0.16 0.5 0.3 0000003 0 1\r\n" +
-          kTheEnd);
+  EXPECT_EQ(Rewrite(CrLf({""})),
+            kHandlingBanner +
+                "BUS             1500.0 1.9  1.5 0.0 0.1 -0.2 80 0.70 0.75 0.51 5 160.0 20.0 R P 6.1 "
+                "0.60 0 35.0 1.6 0.08 0.20 0.50   9000 0.35 -0.16 0.5 0.3 0000003 0 1\r\n" +
+                kTheEnd);
 }
 
 TEST_F(HandlingWriterTest, AnEmptySlotMovesTheLaterOnesToTheLeftOnTheNextRead) {

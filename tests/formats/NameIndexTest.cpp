@@ -21,9 +21,7 @@ Hits HitsAtTheBeginning(const Names& names, std::string_view line) {
   return NameIndex(names).Beginning(line);
 }
 
-Hits HitsAnywhere(const Names& names, std::string_view line) {
-  return NameIndex(names).Anywhere(line);
-}
+Hits HitsAnywhere(const Names& names, std::string_view line) { return NameIndex(names).Anywhere(line); }
 
 TEST(NameIndexTest, ANameBeginsALineByteForByte) {
   const Names names = {"BUS", "TAXI"};
@@ -42,8 +40,7 @@ TEST(NameIndexTest, NamesThatAreThePrefixOfAnotherComeInTheOrderOfTheList) {
 
 TEST(NameIndexTest, EqualNamesAreAllFound) {
   EXPECT_EQ(HitsAtTheBeginning({"BUS", "VAN", "BUS"}, "BUS"), (Hits{{0, true}, {2, true}}));
-  EXPECT_EQ(HitsAnywhere({"BUS", "bus", "BUS"}, "a BUS"),
-            (Hits{{0, false}, {1, false}, {2, false}}));
+  EXPECT_EQ(HitsAnywhere({"BUS", "bus", "BUS"}, "a BUS"), (Hits{{0, false}, {1, false}, {2, false}}));
 }
 
 TEST(NameIndexTest, AnywhereIgnoresCaseAlsoOfUmlauts) {
@@ -52,8 +49,7 @@ TEST(NameIndexTest, AnywhereIgnoresCaseAlsoOfUmlauts) {
 }
 
 TEST(NameIndexTest, AnywhereTellsWhetherTheLineBeginsWithTheName) {
-  EXPECT_EQ(HitsAnywhere({"BUS", "bus", "US"}, "BUS % BUS"),
-            (Hits{{0, true}, {1, false}, {2, false}}));
+  EXPECT_EQ(HitsAnywhere({"BUS", "bus", "US"}, "BUS % BUS"), (Hits{{0, true}, {1, false}, {2, false}}));
 }
 
 TEST(NameIndexTest, ANameIsOneHitHoweverOftenItStandsInTheLine) {

@@ -53,8 +53,8 @@ TEST(HandlingSample, TheBadFileGivesEveryProblemThereIs) {
     for (const int token : tokens) expected.push_back(BadToken(vehicle, token));
   }
   expected.insert(expected.end(),
-                  {WrongCount("TOOSHORT", 31), WrongCount("VERYSHORT", 2),
-                   WrongCount("TOOLONG", 35), WrongCount("SHIFTED", 34), BadToken("SHIFTED", 17)});
+                  {WrongCount("TOOSHORT", 31), WrongCount("VERYSHORT", 2), WrongCount("TOOLONG", 35),
+                   WrongCount("SHIFTED", 34), BadToken("SHIFTED", 17)});
   HandlingFile file;
   ReadHandling(Sample("problems.cfg"), file);
   EXPECT_EQ(file.problems, expected);
@@ -70,11 +70,9 @@ std::set<std::string> ValuesOf(FieldText IdeEntry::*field) {
 
 TEST(DefinitionSample, HasEveryTypeEveryWheelAndLinesOfElevenToThirteenFields) {
   EXPECT_EQ(ValuesOf(&IdeEntry::HandlingID).size(), 66U);
-  EXPECT_EQ(ValuesOf(&IdeEntry::Typ),
-            (std::set<std::string>{"bike", "boat", "car", "heli", "plane"}));
-  EXPECT_EQ(ValuesOf(&IdeEntry::Extra1),
-            (std::set<std::string>{"", "-1", "237", "238", "239", "250", "251", "252", "253", "254",
-                                   "255", "256", "257"}));
+  EXPECT_EQ(ValuesOf(&IdeEntry::Typ), (std::set<std::string>{"bike", "boat", "car", "heli", "plane"}));
+  EXPECT_EQ(ValuesOf(&IdeEntry::Extra1), (std::set<std::string>{"", "-1", "237", "238", "239", "250", "251",
+                                                                "252", "253", "254", "255", "256", "257"}));
   EXPECT_EQ(ValuesOf(&IdeEntry::Extra2),
             (std::set<std::string>{"", "0.5", "0.7", "0.75", "0.8", "0.9", "1.1"}));
 }
@@ -85,8 +83,7 @@ TEST(DefinitionSample, KeepsTheLaws) {
   const std::size_t end = sample.find("\r\nend\r\n", section) + 2;
   RequireDefinitionsRead(sample);
   RequireTidyDefinitionsKept({sample.substr(0, section - 6),
-                              PlainLines(sample.substr(section, end - section)),
-                              sample.substr(end + 5)});
+                              PlainLines(sample.substr(section, end - section)), sample.substr(end + 5)});
 }
 
 TEST(ColorSample, HasNinetyColorsAndOneToEightPairsForEachVehicleOfTheDefinitions) {

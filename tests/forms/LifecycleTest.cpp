@@ -72,9 +72,8 @@ TEST(Lifecycle, StartsInTheOrderOfItsSteps) {
   program.session.error.SetVisible(true);
   program.log.clear();
   program.Start();
-  const Log expected = {"Exe/Path=/app/",  "Exe/Version=1.0.0",     "SSTab1 shown",
-                        "SSTab2 hidden",   "SSTab3 hidden",         "frmError hidden",
-                        "language, saved", "Settings/Language=Eins"};
+  const Log expected = {"Exe/Path=/app/", "Exe/Version=1.0.0", "SSTab1 shown",    "SSTab2 hidden",
+                        "SSTab3 hidden",  "frmError hidden",   "language, saved", "Settings/Language=Eins"};
   EXPECT_EQ(program.log, expected);
 }
 

@@ -25,8 +25,8 @@ const std::string kTwoDefinitions =
           "131, coach, coach, car, BUS, BUS, null, big, 9, 7, 0, 253, 0.9", "end"});
 
 const std::string kPalette =
-    CrLf({"col", "0,0,0\t\t\t\t# 0 black", "10,20,30\t\t\t# 1 sea", "255,0,0\t\t\t# 2 red", "end",
-          "car", "taxi, 1, 2", "bus, 2, 1, 0, 1", "end"});
+    CrLf({"col", "0,0,0\t\t\t\t# 0 black", "10,20,30\t\t\t# 1 sea", "255,0,0\t\t\t# 2 red", "end", "car",
+          "taxi, 1, 2", "bus, 2, 1, 0, 1", "end"});
 
 using Rows = std::vector<std::string>;
 using Numbers = std::vector<std::int16_t>;
@@ -46,9 +46,7 @@ void DeleteColorOfRow(TestSession& test, int row) {
 // Files on a disk that fails before it says whether a file is there.
 class UnreachableFiles : public MemoryFiles {
  public:
-  bool Exists(const std::string& /*path*/) const override {
-    throw Failure(FailureNumber::DeviceIoError);
-  }
+  bool Exists(const std::string& /*path*/) const override { throw Failure(FailureNumber::DeviceIoError); }
 };
 
 TEST(BackupFile, WithoutAnOpenFileDoesNothing) {
@@ -85,8 +83,7 @@ TEST(BackupFile, AYesReplacesTheEarlierBackup) {
   test.desktop.shown.clear();
   test.desktop.answers = {true};
   test.main.cmdBackup.ClickByHand();
-  EXPECT_EQ(test.desktop.shown,
-            (Shown{"yesno: E061", "information: E060\r\n/game/handling.cfg.backup"}));
+  EXPECT_EQ(test.desktop.shown, (Shown{"yesno: E061", "information: E060\r\n/game/handling.cfg.backup"}));
   EXPECT_EQ(test.Disk(kBackup), kTwoVehicles);
 }
 

@@ -40,9 +40,7 @@ class OpenedPairs : public Opened {
 };
 
 // A saved file: the banner, the lines and the line ends of the two writes.
-std::string File(std::initializer_list<std::string_view> lines) {
-  return kBanner + CrLf(lines) + "\r\n\r\n";
-}
+std::string File(std::initializer_list<std::string_view> lines) { return kBanner + CrLf(lines) + "\r\n\r\n"; }
 
 // A file with a palette section of these lines and one vehicle.
 std::string WithPalette(std::initializer_list<std::string_view> lines) {
@@ -50,8 +48,8 @@ std::string WithPalette(std::initializer_list<std::string_view> lines) {
 }
 
 TEST(ColorFile, FillsTheTablesTheirSnapshotsAndTheLists) {
-  Opened test(CrLf({"# head", "col", "5,15,25\t\t\t\t# 0 black", "245,246,247\t# 1 white", "end",
-                    "car", "taxi, 0,1, 1,1", "bus, 1,0", "end"}));
+  Opened test(CrLf({"# head", "col", "5,15,25\t\t\t\t# 0 black", "245,246,247\t# 1 white", "end", "car",
+                    "taxi, 0,1, 1,1", "bus, 1,0", "end"}));
   EXPECT_EQ(TextsOf(test.vars.Colors), (Texts{"0: 5,15,25 black", "1: 245,246,247 white"}));
   EXPECT_EQ(TextsOf(test.vars.CarColors), (Texts{"taxi 0,1 1,1", "bus 1,0"}));
   EXPECT_EQ(TextsOf(test.vars.Kopie_Colors), TextsOf(test.vars.Colors));
@@ -81,8 +79,7 @@ TEST(ColorFile, ChoosesTheFirstColorsAndTheFirstVehicleButNoRowOfTheListBoxes) {
 
 TEST(ColorFile, AFailureInThePaletteKeepsTheTablesOfBefore) {
   OpenedPalette test({"1,1,1\t# 0 oak"});
-  test.OpenColors(
-      CrLf({"col", "2,2,2\t# 0 elm", "x,2,2\t# 1 ash", "end", "car", "cab,0,0", "end"}));
+  test.OpenColors(CrLf({"col", "2,2,2\t# 0 elm", "x,2,2\t# 1 ash", "end", "car", "cab,0,0", "end"}));
   EXPECT_EQ(TextsOf(test.vars.Colors), Texts{"0: 1,1,1 oak"});
   EXPECT_EQ(TextsOf(test.vars.CarColors), Texts{"bus 0,0"});
   EXPECT_EQ(TextsOf(test.vars.Kopie_Colors), (Texts{"0: 2,2,2 elm", "1: 0,0,0 "}));
@@ -150,8 +147,7 @@ TEST(ColorFile, SaveAsRewritesThePaletteOfTheOpenFileToo) {
   test.main.cmdAddColor.ClickByHand();
   test.desktop.choices.push_back(FileChoice{"/game/other", std::nullopt});
   test.main.cmdSaveAs.ClickByHand();
-  EXPECT_EQ(test.Disk(TestSession::kColorPath),
-            kBanner + WithPalette({"200,1,1\t\t\t\t# 0 oak"}) + "\r\n");
+  EXPECT_EQ(test.Disk(TestSession::kColorPath), kBanner + WithPalette({"200,1,1\t\t\t\t# 0 oak"}) + "\r\n");
   EXPECT_EQ(test.Disk("/game/other"),
             File({"col", "200,1,1\t\t\t\t# 0 oak", "end", "car", "bus, 0, 0, 0, 0", "end"}));
   EXPECT_EQ(test.files.written, (Texts{TestSession::kColorPath, "/game/other"}));
@@ -180,8 +176,7 @@ TEST(ColorFile, AFailingSecondWriteLeavesTheSnapshotsAheadAndThePaletteWritten) 
   test.main.cmdSaveAs.ClickByHand();
   EXPECT_EQ(test.LastShown(), "error: Error: 61 - Disk full");
   EXPECT_EQ(TextsOf(test.vars.Kopie_Colors), Texts{"0: 200,1,1 oak"});
-  EXPECT_EQ(test.Disk(TestSession::kColorPath),
-            kBanner + WithPalette({"200,1,1\t\t\t\t# 0 oak"}) + "\r\n");
+  EXPECT_EQ(test.Disk(TestSession::kColorPath), kBanner + WithPalette({"200,1,1\t\t\t\t# 0 oak"}) + "\r\n");
   EXPECT_FALSE(test.vars.IsSaved);
 }
 

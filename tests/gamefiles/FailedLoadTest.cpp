@@ -54,19 +54,17 @@ TEST_F(FailedLoadTest, AFileWithoutAVehicleResetsTheWindow) {
 }
 
 TEST_F(FailedLoadTest, AFileThatCantBeReadResetsTheWindowOfTheFailedKind) {
-  for (const auto& [path, index] :
-       std::vector<std::pair<const char*, int>>{{TestSession::kHandlingPath, 1},
-                                                {TestSession::kDefinitionPath, 2},
-                                                {TestSession::kColorPath, 3}}) {
+  for (const auto& [path, index] : std::vector<std::pair<const char*, int>>{{TestSession::kHandlingPath, 1},
+                                                                            {TestSession::kDefinitionPath, 2},
+                                                                            {TestSession::kColorPath, 3}}) {
     test.files.failingReads.clear();
-    test.files.failingReads["/game/bad" + std::string(path).substr(5)] =
-        FailureNumber::DeviceIoError;
+    test.files.failingReads["/game/bad" + std::string(path).substr(5)] = FailureNumber::DeviceIoError;
     OpenAfterAnEdit("/game/bad" + std::string(path).substr(5), "", index);
     EXPECT_EQ(test.LastShown(), "error: Error: 57 - Device I/O error");
     ExpectResetState();
     EXPECT_EQ(test.vars.CurrentFileType, index - 1);
-    EXPECT_EQ(test.main.Title(), "GTAViceCity PC-Version - Wheelwright [/game/bad" +
-                                     std::string(path).substr(5) + "]");
+    EXPECT_EQ(test.main.Title(),
+              "GTAViceCity PC-Version - Wheelwright [/game/bad" + std::string(path).substr(5) + "]");
     EXPECT_EQ(NamesOf(test.vars.Cars), Texts{"BUS"});
   }
 }
@@ -88,17 +86,16 @@ TEST_F(FailedLoadTest, AReadOnlyFileWithBareLineFeedsResetsTheWindow) {
 TEST_F(FailedLoadTest, TheStepsOfTheFailurePathComeInOrder) {
   test.OpenHandling(kBus);
   test.desktop.shown.clear();
-  for (Control* control : std::initializer_list<Control*>{
-           &test.main.cmdSave, &test.main.cmdSaveAs, &test.main.cmdBackup, &test.main.FrameAutos,
-           &test.main.cmdUndo}) {
+  for (Control* control :
+       std::initializer_list<Control*>{&test.main.cmdSave, &test.main.cmdSaveAs, &test.main.cmdBackup,
+                                       &test.main.FrameAutos, &test.main.cmdUndo}) {
     WatchEnabling(test, *control);
   }
   WatchRows(test, test.main.cmbAutos);
   test.OpenHandling(kNoVehicle);
-  EXPECT_EQ(test.desktop.shown,
-            (Texts{"open", "hourglass", "cmbAutos: 0 rows", "normal", "cmdSave off",
-                   "cmdSaveAs off", "cmdBackup off", "FrameAutos off", "cmdUndo off",
-                   "cmbAutos: 0 rows", "error: Error: 380 - Invalid property value"}));
+  EXPECT_EQ(test.desktop.shown, (Texts{"open", "hourglass", "cmbAutos: 0 rows", "normal", "cmdSave off",
+                                       "cmdSaveAs off", "cmdBackup off", "FrameAutos off", "cmdUndo off",
+                                       "cmbAutos: 0 rows", "error: Error: 380 - Invalid property value"}));
 }
 
 TEST_F(FailedLoadTest, TheTabSetsAreDisabledBetweenListAndUndo) {
@@ -142,28 +139,24 @@ TEST_F(FailedLoadTest, AuthorAndDateAreClearedBeforeTheFileIsRead) {
 TEST_F(FailedLoadTest, RowsOfTheFailedFileStayInTheOpenWindow) {
   test.OpenHandling(CrLf({"TAXI 1500.0 2.60", "% BOAT", VehicleLineOf("BOAT")}));
   EXPECT_EQ(test.LastShown(), "error: Error: 9 - Subscript out of range");
-  EXPECT_EQ(test.error.lstErrors.Rows(),
-            (std::vector<ReportList::Row>{{"TAXI", "", "E102: 3 E103"}}));
+  EXPECT_EQ(test.error.lstErrors.Rows(), (std::vector<ReportList::Row>{{"TAXI", "", "E102: 3 E103"}}));
   EXPECT_TRUE(test.error.IsVisible());
 }
 
 TEST_F(FailedLoadTest, ADamagedFileResetsTheWindowAndNamesTheLine) {
   OpenAfterAnEdit("/game/default.ide", CrLf({"cars", "90, bus", "end"}), 2);
-  EXPECT_EQ(test.desktop.shown,
-            (Texts{"question: E118", "open", "hourglass", "normal", "error: E1502"}));
+  EXPECT_EQ(test.desktop.shown, (Texts{"question: E118", "open", "hourglass", "normal", "error: E1502"}));
   ExpectResetState();
   EXPECT_EQ(test.vars.CurrentFileType, 1);
   EXPECT_TRUE(test.main.SSTab2.IsVisible());
 }
 
 TEST_F(FailedLoadTest, ADamagedFileIsToldOfOnceTheWindowIsReset) {
-  test.OpenDefinition(
-      CrLf({"cars", "130, cab, cab, car, TAXI, TAXI, null, taxi, 10, 7, 0", "end"}));
+  test.OpenDefinition(CrLf({"cars", "130, cab, cab, car, TAXI, TAXI, null, taxi, 10, 7, 0", "end"}));
   test.desktop.shown.clear();
   WatchEnabling(test, test.main.cmdSave);
   test.OpenDefinition(CrLf({"cars", "90, bus", "end"}));
-  EXPECT_EQ(test.desktop.shown,
-            (Texts{"open", "hourglass", "normal", "cmdSave off", "error: E1502"}));
+  EXPECT_EQ(test.desktop.shown, (Texts{"open", "hourglass", "normal", "cmdSave off", "error: E1502"}));
 }
 
 TEST_F(FailedLoadTest, OpeningAgainLeadsOutOfTheResetState) {
@@ -182,23 +175,22 @@ TEST_F(FailedLoadTest, ASaveAfterAnUnknownKindWritesTheEarlierDataIntoTheNewFile
   test.Open("/game/other.CFG", CrLf({"; Author: Bob", VehicleLineOf("TAXI"), "; kept"}), 1);
   test.main.cmdSave.ClickByHand();
   EXPECT_EQ(test.LastShown(), "information: E116");
-  EXPECT_EQ(test.Disk("/game/other.CFG"), CrLf({"; File created with Wheelwright V1.0.0",
-                                                "; Homepage: https://wheelwright.example/",
-                                                "; Author: Ada", "; kept", ";", ";the end"}));
+  EXPECT_EQ(test.Disk("/game/other.CFG"),
+            CrLf({"; File created with Wheelwright V1.0.0", "; Homepage: https://wheelwright.example/",
+                  "; Author: Ada", "; kept", ";", ";the end"}));
   EXPECT_EQ(test.Disk(kPath), CrLf({"; Author: Ada"}) + kBus);
 }
 
 TEST_F(FailedLoadTest, ASaveAfterAnUnknownKindWritesTheWholeEarlierTableOfDefinitions) {
-  test.OpenDefinition(
-      CrLf({"cars", "90, bus, bus, car, BUS, BUS, null, normal, 10, 7, 0, 164, 0.8", "end"}));
+  test.OpenDefinition(CrLf({"cars", "90, bus, bus, car, BUS, BUS, null, normal, 10, 7, 0, 164, 0.8", "end"}));
   test.Open("/game/other.cfg", CrLf({"objs", "cars", "1, x", "end"}), 2);
   test.main.cmdSave.ClickByHand();
-  EXPECT_EQ(test.Disk("/game/other.cfg"),
-            std::string(kBanner) +
-                CrLf({"objs", "cars",
-                      "90,\tbus,\t\tbus,\t\tcar,\tBUS,\t\tBUS,\t\tnull,\t\tnormal,\t\t10, \t7, "
-                      "\t0, \t164, \t0.8",
-                      "end", ""}));
+  EXPECT_EQ(
+      test.Disk("/game/other.cfg"),
+      std::string(kBanner) + CrLf({"objs", "cars",
+                                   "90,\tbus,\t\tbus,\t\tcar,\tBUS,\t\tBUS,\t\tnull,\t\tnormal,\t\t10, \t7, "
+                                   "\t0, \t164, \t0.8",
+                                   "end", ""}));
 }
 
 TEST_F(FailedLoadTest, ASaveAfterAMissingFileWritesTheEarlierDataOnceTheFileIsThere) {
@@ -212,9 +204,9 @@ TEST_F(FailedLoadTest, ASaveAfterAMissingFileWritesTheEarlierDataOnceTheFileIsTh
   test.files.contents["/game/later.ide"] = CrLf({"cars", "end"});
   test.main.cmdSave.ClickByHand();
   EXPECT_EQ(test.desktop.shown, Texts{"information: E116"});
-  EXPECT_EQ(test.Disk("/game/later.ide"), CrLf({"; File created with Wheelwright V1.0.0",
-                                                "; Homepage: https://wheelwright.example/",
-                                                VehicleLineOf("BUS"), ";", ";the end"}));
+  EXPECT_EQ(test.Disk("/game/later.ide"),
+            CrLf({"; File created with Wheelwright V1.0.0", "; Homepage: https://wheelwright.example/",
+                  VehicleLineOf("BUS"), ";", ";the end"}));
 }
 
 }  // namespace

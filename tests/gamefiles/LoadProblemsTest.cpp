@@ -41,9 +41,8 @@ TEST(LoadProblemsTest, RowsStayInOrderOfArrivalAndShowTheWindow) {
   AddLoadProblems(test.session, {BadToken("TAXI", 1)});
   EXPECT_TRUE(test.error.IsVisible());
   AddLoadProblems(test.session, {WrongCount("BUS", 31), BadToken("4711", 0)});
-  EXPECT_EQ(test.error.lstErrors.Rows(), (Rows{{"TAXI", "Mass & more", "E105"},
-                                               {"BUS", "", "E102: 31 E103"},
-                                               {"4711", "E015", "E104"}}));
+  EXPECT_EQ(test.error.lstErrors.Rows(),
+            (Rows{{"TAXI", "Mass & more", "E105"}, {"BUS", "", "E102: 31 E103"}, {"4711", "E015", "E104"}}));
   EXPECT_TRUE(test.error.IsVisible());
 }
 
@@ -88,8 +87,7 @@ TEST(LoadProblemsTest, TheCloseBoxHidesTheWindowAndTheNextProblemShowsItAgain) {
   EXPECT_EQ(test.error.lstErrors.Rows(), kShortBusRows);
   AddLoadProblems(test.session, {WrongCount("TAXI", 5)});
   EXPECT_TRUE(test.error.IsVisible());
-  EXPECT_EQ(test.error.lstErrors.Rows(),
-            (Rows{{"BUS", "", "E102: 3 E103"}, {"TAXI", "", "E102: 5 E103"}}));
+  EXPECT_EQ(test.error.lstErrors.Rows(), (Rows{{"BUS", "", "E102: 3 E103"}, {"TAXI", "", "E102: 5 E103"}}));
 }
 
 TEST(LoadProblemsTest, AFileWithoutProblemsEmptiesTheListOfAnOpenWindow) {
@@ -112,8 +110,7 @@ TEST(LoadProblemsTest, AFileWithoutProblemsDoesntShowAHiddenWindow) {
 TEST(LoadProblemsTest, OtherKindsOfFileLeaveListAndWindowAsTheyWere) {
   TestSession test;
   test.OpenHandling(kShortBus);
-  test.OpenDefinition(
-      CrLf({"cars", "90, bus, bus, car, BUS, BUS, null, normal, 10, 7, 0, 164, 0.8", "end"}));
+  test.OpenDefinition(CrLf({"cars", "90, bus, bus, car, BUS, BUS, null, normal, 10, 7, 0, 164, 0.8", "end"}));
   EXPECT_EQ(test.main.cmbAutos.Rows(), std::vector<std::string>{"BUS"});
   EXPECT_EQ(test.error.lstErrors.Rows(), kShortBusRows);
   EXPECT_TRUE(test.error.IsVisible());

@@ -18,9 +18,7 @@ const std::string kColors = CrLf({"col", "1,2,3\t# 0 black", "end", "car", "bus,
 
 class OpenFileTest : public ::testing::Test {
  protected:
-  std::string Setting(const std::string& key) const {
-    return test.settings.GetOr("Settings", key, "absent");
-  }
+  std::string Setting(const std::string& key) const { return test.settings.GetOr("Settings", key, "absent"); }
 
   // The file dialog as it came up last.
   const FileDialog& Dialog() const { return test.desktop.dialogs.back(); }
@@ -187,15 +185,14 @@ TEST_F(OpenFileTest, AnUnknownKindLeavesAllButNameSettingsTitleAndList) {
   test.desktop.shown.clear();
   test.files.contents["/game/other.CFG"] = kBus;
   Choose("/game/other.CFG", 1);
-  EXPECT_EQ(test.desktop.shown,
-            (Texts{"open", "hourglass", "normal", "error: Error: Filetype unknown!"}));
+  EXPECT_EQ(test.desktop.shown, (Texts{"open", "hourglass", "normal", "error: Error: Filetype unknown!"}));
   EXPECT_EQ(test.vars.CurrentFile, "/game/other.CFG");
   EXPECT_EQ(Setting("OpenPath"), "/game/other.CFG");
   EXPECT_EQ(test.main.Title(), "GTAViceCity PC-Version - Wheelwright [/game/other.CFG]");
   EXPECT_EQ(test.main.cmbAutos.Rows(), Texts{});
-  for (const Control* control : std::initializer_list<Control*>{
-           &test.main.cmdSave, &test.main.cmdSaveAs, &test.main.cmdBackup, &test.main.cmdUndo,
-           &test.main.FrameAutos, &test.main.SSTab1}) {
+  for (const Control* control :
+       std::initializer_list<Control*>{&test.main.cmdSave, &test.main.cmdSaveAs, &test.main.cmdBackup,
+                                       &test.main.cmdUndo, &test.main.FrameAutos, &test.main.SSTab1}) {
     EXPECT_TRUE(control->IsEnabled()) << control->Name();
   }
   EXPECT_EQ(NamesOf(test.vars.Cars), Texts{"BUS"});
@@ -207,14 +204,14 @@ TEST_F(OpenFileTest, AFilesNameAndFilterIndexMustAgree) {
     int index;
     int type;  // -1: unknown
   };
-  for (const Case& c : std::vector<Case>{
-           {"/g/handling.cfg", 1, 0},  {"/g/mycfg", 1, 0},          {"/g/a.cfg.backup", 1, 0},
-           {"/g/default.ide", 2, 1},   {"/g/a.ide.backup", 2, 1},   {"/g/carcols.dat", 3, 2},
-           {"/g/a.dat.backup", 3, 2},  {"/g/handling.cfg", 2, -1},  {"/g/handling.cfg", 3, -1},
-           {"/g/handling.cfg", 0, -1}, {"/g/handling.cfg", 4, -1},  {"/g/default.ide", 1, -1},
-           {"/g/carcols.dat", 2, -1},  {"/g/HANDLING.CFG", 1, -1},  {"/g/handling.Cfg", 1, -1},
-           {"/g/a.cfg.Backup", 1, -1}, {"/g/a.cfg.backup2", 1, -1}, {"/g/a.backup", 1, -1},
-           {"/g/a.ide.backup", 1, -1}, {"/g/a.cfg ", 1, -1}}) {
+  for (const Case& c :
+       std::vector<Case>{{"/g/handling.cfg", 1, 0},  {"/g/mycfg", 1, 0},          {"/g/a.cfg.backup", 1, 0},
+                         {"/g/default.ide", 2, 1},   {"/g/a.ide.backup", 2, 1},   {"/g/carcols.dat", 3, 2},
+                         {"/g/a.dat.backup", 3, 2},  {"/g/handling.cfg", 2, -1},  {"/g/handling.cfg", 3, -1},
+                         {"/g/handling.cfg", 0, -1}, {"/g/handling.cfg", 4, -1},  {"/g/default.ide", 1, -1},
+                         {"/g/carcols.dat", 2, -1},  {"/g/HANDLING.CFG", 1, -1},  {"/g/handling.Cfg", 1, -1},
+                         {"/g/a.cfg.Backup", 1, -1}, {"/g/a.cfg.backup2", 1, -1}, {"/g/a.backup", 1, -1},
+                         {"/g/a.ide.backup", 1, -1}, {"/g/a.cfg ", 1, -1}}) {
     TestSession session;
     session.vars.CurrentFileType = -1;
     session.Open(c.file, c.type == 0 ? kBus : c.type == 1 ? kDefinition : kColors, c.index);
@@ -245,25 +242,23 @@ TEST_F(OpenFileTest, TheStepsOfALoadComeInOrder) {
   for (TabGroup* tabs : {&test.main.SSTab1, &test.main.SSTab2, &test.main.SSTab3}) {
     WatchShowing(test, *tabs);
   }
-  for (TextBox* box : std::initializer_list<TextBox*>{&test.main.txtAuthor, &test.main.txtDate,
-                                                      &test.main.txtAutoname}) {
+  for (TextBox* box :
+       std::initializer_list<TextBox*>{&test.main.txtAuthor, &test.main.txtDate, &test.main.txtAutoname}) {
     WatchText(test, *box);
   }
   test.OpenHandling(CrLf({"; Author: Ada", "; Created 2003"}) + kBus);
-  EXPECT_EQ(
-      test.desktop.shown,
-      (Texts{"open", "hourglass",
-             "title: GTAViceCity PC-Version - Wheelwright [/game/handling.cfg]", "cmbAutos: 0 rows",
-             "SSTab1 shown", "SSTab2 hidden", "SSTab3 hidden",
-             "txtAuthor: ", "txtDate: ", "txtAuthor: Ada", "txtDate: 2003", "cmbAutos: 1 rows",
-             "cmbAutos: row 0", "txtAutoname: BUS", "SSTab1 shown", "normal"}));
+  EXPECT_EQ(test.desktop.shown,
+            (Texts{"open", "hourglass", "title: GTAViceCity PC-Version - Wheelwright [/game/handling.cfg]",
+                   "cmbAutos: 0 rows", "SSTab1 shown", "SSTab2 hidden", "SSTab3 hidden",
+                   "txtAuthor: ", "txtDate: ", "txtAuthor: Ada", "txtDate: 2003", "cmbAutos: 1 rows",
+                   "cmbAutos: row 0", "txtAutoname: BUS", "SSTab1 shown", "normal"}));
   EXPECT_TRUE(test.vars.IsSaved);
 }
 
 TEST_F(OpenFileTest, CommandsAreEnabledInOrderBehindTheirTabSet) {
-  for (Control* control : std::initializer_list<Control*>{
-           &test.main.SSTab1, &test.main.cmdSave, &test.main.cmdBackup, &test.main.FrameAutos,
-           &test.main.cmdUndo, &test.main.cmdSaveAs}) {
+  for (Control* control :
+       std::initializer_list<Control*>{&test.main.SSTab1, &test.main.cmdSave, &test.main.cmdBackup,
+                                       &test.main.FrameAutos, &test.main.cmdUndo, &test.main.cmdSaveAs}) {
     WatchEnabling(test, *control);
   }
   WatchRows(test, test.main.cmbAutos);

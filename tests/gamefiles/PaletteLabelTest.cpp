@@ -23,8 +23,7 @@ TEST(PaletteLabelTest, ALabelIsTheNameAndTheThreeNumbers) {
 
 TEST(PaletteLabelTest, ALabelTellsItsColorWhateverTheNameHolds) {
   for (const char* name : {"Color94", "Color 94", "", " - 1,2,3", "1,2,3 - ", "a\tb", "9"}) {
-    EXPECT_EQ(ColorInLabel(PaletteLabel(Color(name, {7, 128, 255}))), Components({7, 128, 255}))
-        << name;
+    EXPECT_EQ(ColorInLabel(PaletteLabel(Color(name, {7, 128, 255}))), Components({7, 128, 255})) << name;
   }
 }
 
@@ -34,9 +33,9 @@ TEST(PaletteLabelTest, ToldComponentsAreCutToTheRangeOfAColor) {
 }
 
 TEST(PaletteLabelTest, AnyOtherTextTellsNoColor) {
-  for (const char* text : {"", "black", "1,2,3", "x - ", "x - 1", "x - 1,2", "x - 1,2,",
-                           "x - 1,2,3,4", "x - 1,2,3 ", "x - 1;2;3", "x - 1,,3", "x - 1,2,red",
-                           "x - 1,2,3red", "x - +1,2,3", "x - 1,2,99999999999"}) {
+  for (const char* text :
+       {"", "black", "1,2,3", "x - ", "x - 1", "x - 1,2", "x - 1,2,", "x - 1,2,3,4", "x - 1,2,3 ",
+        "x - 1;2;3", "x - 1,,3", "x - 1,2,red", "x - 1,2,3red", "x - +1,2,3", "x - 1,2,99999999999"}) {
     EXPECT_EQ(ColorInLabel(text), std::nullopt) << text;
   }
 }

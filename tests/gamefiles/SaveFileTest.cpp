@@ -170,8 +170,7 @@ TEST_F(SaveFileTest, TheTitleComesBeforeTheMessage) {
   WatchTitle(test);
   SaveAs(kTarget);
   EXPECT_EQ(test.desktop.shown,
-            (Texts{"save", "title: GTA3 PC-Version - Wheelwright [/game/copy.txt]",
-                   "information: E116"}));
+            (Texts{"save", "title: GTA3 PC-Version - Wheelwright [/game/copy.txt]", "information: E116"}));
 }
 
 TEST_F(SaveFileTest, TheDialogOfSaveAsKeepsWhatTheOpenDialogLeft) {

@@ -20,8 +20,7 @@ void AddNumbered(Screen& screen, const std::string& place, const std::vector<std
 }
 
 void AddControl(Screen& screen, const std::string& name, const Control& control) {
-  if (const auto* captioned = dynamic_cast<const Captioned*>(&control))
-    screen[name] = captioned->Caption();
+  if (const auto* captioned = dynamic_cast<const Captioned*>(&control)) screen[name] = captioned->Caption();
   if (const auto* box = dynamic_cast<const TextBox*>(&control)) screen[name] = box->Text();
   if (const auto* list = dynamic_cast<const RowList*>(&control))
     AddNumbered(screen, name + " row ", list->Rows());
@@ -33,8 +32,7 @@ void AddControl(Screen& screen, const std::string& name, const Control& control)
 
 void AddWindow(Screen& screen, const std::string& prefix, const Window& window) {
   screen[window.Name()] = window.Title();
-  for (const Control* control : window.Controls())
-    AddControl(screen, prefix + control->Name(), *control);
+  for (const Control* control : window.Controls()) AddControl(screen, prefix + control->Name(), *control);
 }
 
 Screen ScreenOf(const TestSession& s) {
@@ -197,9 +195,9 @@ const std::multimap<int, std::string> kPlaces = {
 };
 
 // The entries that other operations read at the moment of showing them, and those that are free.
-const std::vector<std::pair<int, int>> kWithoutPlace = {
-    {12, 14},   {60, 61},   {63, 63},   {91, 92},   {98, 99},   {102, 105},
-    {113, 118}, {121, 122}, {147, 147}, {150, 154}, {169, 177}, {182, 220}};
+const std::vector<std::pair<int, int>> kWithoutPlace = {{12, 14},   {60, 61},   {63, 63},   {91, 92},
+                                                        {98, 99},   {102, 105}, {113, 118}, {121, 122},
+                                                        {147, 147}, {150, 154}, {169, 177}, {182, 220}};
 
 void FillLang(TestSession& s, const std::string& text) { s.vars.Lang.fill(text); }
 

@@ -11,9 +11,7 @@
 
 namespace wheelwright::languages {
 
-std::ostream& operator<<(std::ostream& stream, const Fault& fault) {
-  return stream << ReportOf("", {fault});
-}
+std::ostream& operator<<(std::ostream& stream, const Fault& fault) { return stream << ReportOf("", {fault}); }
 
 std::ostream& operator<<(std::ostream& stream, const Sighting& sighting) {
   return stream << sighting.entry << " on " << sighting.control;
@@ -36,9 +34,7 @@ std::string With(std::size_t entry, const std::string& text) {
   return bytes;
 }
 
-Faults FaultsWith(std::size_t entry, const std::string& text) {
-  return FaultsOf(With(entry, text));
-}
+Faults FaultsWith(std::size_t entry, const std::string& text) { return FaultsOf(With(entry, text)); }
 
 TEST(LanguageCheck, AGoodFileHasNoFault) {
   EXPECT_EQ(FaultsOf(English()), Faults());
@@ -69,8 +65,7 @@ TEST(LanguageCheck, AFileOfAnotherNumberOfLinesIsToldOnce) {
 }
 
 TEST(LanguageCheck, OtherLineEndsAreTold) {
-  const Faults expected = {
-      {{}, "has lines that don't end in CR LF; save it with the line ends of Windows"}};
+  const Faults expected = {{{}, "has lines that don't end in CR LF; save it with the line ends of Windows"}};
   std::string unixEnds = English();
   std::erase(unixEnds, '\r');
   EXPECT_EQ(FaultsOf(unixEnds), expected);
@@ -93,16 +88,14 @@ TEST(LanguageCheck, AFileInUtf8IsToldOnce) {
 TEST(LanguageCheck, AnEntryInUtf8AmongOthersIsTold) {
   std::string bytes = With(2, "G\xC3\xA9n\xC3\xA9ral");
   bytes.replace(0, bytes.find('\r'), "Langue fran\xE7\x61ise");
-  EXPECT_EQ(FaultsOf(bytes),
-            (Faults{{2, "is in UTF-8; write it in Windows-1252 as the rest of the file"}}));
+  EXPECT_EQ(FaultsOf(bytes), (Faults{{2, "is in UTF-8; write it in Windows-1252 as the rest of the file"}}));
 }
 
 TEST(LanguageCheck, AByteThatIsNoCharacterIsTold) {
   EXPECT_EQ(FaultsWith(2, "Gen\x81ral"),
             (Faults{{2, "has the byte 81, which is no character of Windows-1252"}}));
   EXPECT_EQ(FaultsWith(2, "Gen\teral"), (Faults{{2, "has the control character 09; take it out"}}));
-  EXPECT_EQ(FaultsWith(2, "Gene\x7Fral"),
-            (Faults{{2, "has the control character 7F; take it out"}}));
+  EXPECT_EQ(FaultsWith(2, "Gene\x7Fral"), (Faults{{2, "has the control character 7F; take it out"}}));
 }
 
 TEST(LanguageCheck, AnEmptyEntryIsTold) {
@@ -120,13 +113,10 @@ TEST(LanguageCheck, BlanksInTheWrongPlaceAreTold) {
 }
 
 TEST(LanguageCheck, StrayBackslashesAndLineBreaksAreTold) {
-  EXPECT_EQ(FaultsWith(99, "All\\tdone."),
-            (Faults{{99, "has a backslash that no n follows; take it out"}}));
-  EXPECT_EQ(FaultsWith(99, "Done.\\"),
-            (Faults{{99, "has a backslash that no n follows; take it out"}}));
+  EXPECT_EQ(FaultsWith(99, "All\\tdone."), (Faults{{99, "has a backslash that no n follows; take it out"}}));
+  EXPECT_EQ(FaultsWith(99, "Done.\\"), (Faults{{99, "has a backslash that no n follows; take it out"}}));
   EXPECT_EQ(FaultsWith(99, "All\\nis\\Ndone."), Faults());
-  EXPECT_EQ(FaultsWith(1, "All\\nvehicles"),
-            (Faults{{1, "has a line break, for which there is no room"}}));
+  EXPECT_EQ(FaultsWith(1, "All\\nvehicles"), (Faults{{1, "has a line break, for which there is no room"}}));
 }
 
 TEST(LanguageCheck, ThePatternOfAKindOfFileIsTheProgramsOwn) {
@@ -157,13 +147,11 @@ TEST(LanguageCheck, NamesAndNumbersOfEveryLanguageMustBeThere) {
 }
 
 TEST(LanguageCheck, AButtonOrLabelNeedsOneKey) {
-  EXPECT_EQ(FaultsWith(9, "Save"),
-            (Faults{{9, "has no key; put an \"&\" before one of its letters"}}));
+  EXPECT_EQ(FaultsWith(9, "Save"), (Faults{{9, "has no key; put an \"&\" before one of its letters"}}));
   EXPECT_EQ(FaultsWith(9, "Save && run"),
             (Faults{{9, "has no key; put an \"&\" before one of its letters"}}));
-  EXPECT_EQ(
-      FaultsWith(9, "&Save &it"),
-      (Faults{{9, "has more than one \"&\"; leave the one before the letter that is the key"}}));
+  EXPECT_EQ(FaultsWith(9, "&Save &it"),
+            (Faults{{9, "has more than one \"&\"; leave the one before the letter that is the key"}}));
   for (const char* text : {"Save & run", "Save&", "S\xE4ve &\xE4"}) {
     EXPECT_EQ(FaultsWith(9, text),
               (Faults{{9, "must have its \"&\" before a letter from A to Z or a digit"}}));
@@ -244,10 +232,9 @@ TEST(LanguageCheck, AViewHoldsAPageAndWhatIsAlwaysInSight) {
     return Holds(view, {53, Use::Label, "lblBremsstaerke"});
   });
   ASSERT_NE(brakes, views.end());
-  for (const Sighting& seen :
-       {Sighting{54, Use::Hint, "lblBremsstaerkeInfo"}, Sighting{57, Use::Label, "lblABS"},
-        Sighting{8, Use::Button, "cmdOpen"}, Sighting{0, Use::Frame, "FrameSprache"},
-        Sighting{5, Use::Tab, "SSTab1"}}) {
+  for (const Sighting& seen : {Sighting{54, Use::Hint, "lblBremsstaerkeInfo"},
+                               Sighting{57, Use::Label, "lblABS"}, Sighting{8, Use::Button, "cmdOpen"},
+                               Sighting{0, Use::Frame, "FrameSprache"}, Sighting{5, Use::Tab, "SSTab1"}}) {
     EXPECT_TRUE(Holds(*brakes, seen)) << seen;
   }
   EXPECT_FALSE(Holds(*brakes, {17, Use::Label, "lblGewicht"}));
@@ -261,9 +248,9 @@ TEST(LanguageCheck, WhatIsNoMessageComesUpInSomeView) {
   for (std::size_t entry = 0; entry < kUsedEntries; ++entry) {
     if (!sightings.contains(entry)) messages.push_back(entry);
   }
-  EXPECT_EQ(messages, (std::vector<std::size_t>{12,  13,  14,  60,  61,  63,  91,  92,  98,
-                                                99,  102, 103, 104, 105, 113, 114, 115, 116,
-                                                117, 118, 121, 122, 150, 152, 153, 154}));
+  EXPECT_EQ(messages,
+            (std::vector<std::size_t>{12,  13,  14,  60,  61,  63,  91,  92,  98,  99,  102, 103, 104,
+                                      105, 113, 114, 115, 116, 117, 118, 121, 122, 150, 152, 153, 154}));
 }
 
 }  // namespace

@@ -35,8 +35,7 @@ TEST_P(LanguageFile, IsAsItsTranslatorsCheckWantsIt) {
   const std::string bytes = DiskFiles().Read(kFolder + GetParam());
   EXPECT_EQ(languages::ReportOf(GetParam(), languages::FaultsOfName(GetParam())),
             GetParam() + ": all is well\n");
-  EXPECT_EQ(languages::ReportOf(GetParam(), languages::FaultsOf(bytes)),
-            GetParam() + ": all is well\n");
+  EXPECT_EQ(languages::ReportOf(GetParam(), languages::FaultsOf(bytes)), GetParam() + ": all is well\n");
 }
 
 // What no check of one file alone can see: a text that was left in another language.
@@ -80,8 +79,7 @@ void AddDesignOf(const Window& window, Designed& design) {
     if (const auto* captioned = dynamic_cast<const Captioned*>(control))
       design.emplace(captioned->Words().lang, captioned->Words().design);
     if (const auto* tabs = dynamic_cast<const TabGroup*>(control)) AddDesign(tabs->Words(), design);
-    if (const auto* list = dynamic_cast<const ReportList*>(control))
-      AddDesign(list->Words(), design);
+    if (const auto* list = dynamic_cast<const ReportList*>(control)) AddDesign(list->Words(), design);
   }
 }
 
@@ -103,8 +101,7 @@ TEST(LanguageFiles, GermanHasTheCaptionsOfTheDesign) {
   // The design has placeholders for these two hints.
   design.erase(kFirstWheelInfo);
   design.erase(kSecondWheelInfo);
-  const std::vector<std::string> german =
-      languages::EntriesOf(DiskFiles().Read(kFolder + "Deutsch.lng"));
+  const std::vector<std::string> german = languages::EntriesOf(DiskFiles().Read(kFolder + "Deutsch.lng"));
   ASSERT_EQ(german.size(), kUsedEntries);
   for (const auto& [entry, caption] : design) {
     EXPECT_EQ(ToUnicode(Read(german[static_cast<std::size_t>(entry)])), caption);

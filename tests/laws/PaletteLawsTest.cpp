@@ -20,8 +20,7 @@ namespace {
 
 // Names of which some are parts of others, in other case, or empty.
 std::string AnyName() {
-  return *rc::gen::element<std::string>("Rot", "rot", "Blau", "Hellblau", "Gelb", "o", "", "\xDC",
-                                        "\xFC");
+  return *rc::gen::element<std::string>("Rot", "rot", "Blau", "Hellblau", "Gelb", "o", "", "\xDC", "\xFC");
 }
 
 std::string AnyColors() {
@@ -62,17 +61,13 @@ void LeavePalettePage(TestSession& test) {
 Step AnyButton() {
   switch (*rc::gen::weightedElement<int>({{2, 0}, {2, 1}, {4, 2}, {4, 3}, {2, 4}})) {
     case 0:
-      return {[](TestSession& test) { test.main.cmdNewColor.ClickByHand(); },
-              &PaletteModel::AddColor};
+      return {[](TestSession& test) { test.main.cmdNewColor.ClickByHand(); }, &PaletteModel::AddColor};
     case 1:
-      return {[](TestSession& test) { test.main.cmdDeleteColor.ClickByHand(); },
-              &PaletteModel::DeleteColor};
+      return {[](TestSession& test) { test.main.cmdDeleteColor.ClickByHand(); }, &PaletteModel::DeleteColor};
     case 2:
-      return {[](TestSession& test) { test.main.cmdAddColor.ClickByHand(); },
-              &PaletteModel::AddPair};
+      return {[](TestSession& test) { test.main.cmdAddColor.ClickByHand(); }, &PaletteModel::AddPair};
     case 3:
-      return {[](TestSession& test) { test.main.cmdRemColor.ClickByHand(); },
-              &PaletteModel::RemovePair};
+      return {[](TestSession& test) { test.main.cmdRemColor.ClickByHand(); }, &PaletteModel::RemovePair};
     default:
       return {LeavePalettePage, &PaletteModel::LeavePalettePage};
   }

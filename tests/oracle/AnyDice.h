@@ -20,8 +20,7 @@ inline std::string BytesOf(std::pair<std::uint64_t, std::size_t> seedAndLength) 
 // Dice of other bytes in each run of a law; a law that fails is tried with fewer of them.
 inline Dice AnyDice() {
   const auto bytes = rc::gen::map(
-      rc::gen::pair(rc::gen::arbitrary<std::uint64_t>(), rc::gen::inRange<std::size_t>(0, 2000)),
-      BytesOf);
+      rc::gen::pair(rc::gen::arbitrary<std::uint64_t>(), rc::gen::inRange<std::size_t>(0, 2000)), BytesOf);
   const auto fewer = [](const std::string& all) { return rc::shrink::removeChunks(all); };
   return Dice(*rc::gen::shrink(rc::gen::noShrink(bytes), fewer));
 }

@@ -69,8 +69,7 @@ void RequireColorsRead(const std::string& text) {
     return Require(read.paletteFailure == plain.failure, "the palette fails as plain reading does");
   Require(read.pairsFailure == plain.failure, "the pairs fail as plain reading does");
   Require(RecordsOf(read.pairs.records) == plain.carColors, "the pairs are those of plain reading");
-  Require(read.pairs.damagedLine.value_or(0) == plain.damagedLine,
-          "a damaged line ends the reading");
+  Require(read.pairs.damagedLine.value_or(0) == plain.damagedLine, "a damaged line ends the reading");
   Require(read.pairs.names == plain.keys, "the names are those of plain reading");
 }
 

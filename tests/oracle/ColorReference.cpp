@@ -86,10 +86,10 @@ void SecondPass(const std::vector<std::string>& lines, PlainColors& read) {
 }
 
 std::string LineOf(const ColorEntry& color) {
-  const std::string numbers = std::to_string(color.Red) + "," + std::to_string(color.Green) + "," +
-                              std::to_string(color.Blue);
-  return numbers + std::string(numbers.size() < 8 ? 4 : 3, '\t') + "# " +
-         std::to_string(color.Index) + " " + color.ColorName + "\r\n";
+  const std::string numbers =
+      std::to_string(color.Red) + "," + std::to_string(color.Green) + "," + std::to_string(color.Blue);
+  return numbers + std::string(numbers.size() < 8 ? 4 : 3, '\t') + "# " + std::to_string(color.Index) + " " +
+         color.ColorName + "\r\n";
 }
 
 std::string LineOf(const CarColorEntry& entry) {
@@ -133,8 +133,7 @@ std::string PlainLabel(const ColorEntry& color) {
   return label.str();
 }
 
-std::vector<std::string> ShowPairsPlainly(const std::vector<ColorEntry>& colors,
-                                          CarColorEntry& entry) {
+std::vector<std::string> ShowPairsPlainly(const std::vector<ColorEntry>& colors, CarColorEntry& entry) {
   std::vector<std::string> rows;
   std::string first;
   std::string second;
@@ -172,8 +171,7 @@ std::string WritePalettePlainly(const std::string& onDisk, const std::vector<Col
   return buffer + "\r\n";
 }
 
-std::string WritePairsPlainly(const std::string& onDisk,
-                              const std::vector<CarColorEntry>& carColors) {
+std::string WritePairsPlainly(const std::string& onDisk, const std::vector<CarColorEntry>& carColors) {
   std::string buffer;
   bool inSection = false;
   bool tableWritten = false;

@@ -27,13 +27,11 @@ std::string PlainLabel(const ColorEntry& color);
 
 // Shows the pairs of a vehicle: a row for each. A number that gives no name becomes that of the
 // first colour; behind a named one none does.
-std::vector<std::string> ShowPairsPlainly(const std::vector<ColorEntry>& colors,
-                                          CarColorEntry& entry);
+std::vector<std::string> ShowPairsPlainly(const std::vector<ColorEntry>& colors, CarColorEntry& entry);
 
 // The file behind the first pass of a save, and the text behind the second without the line end of
 // the final write.
 std::string WritePalettePlainly(const std::string& onDisk, const std::vector<ColorEntry>& colors);
-std::string WritePairsPlainly(const std::string& onDisk,
-                              const std::vector<CarColorEntry>& carColors);
+std::string WritePairsPlainly(const std::string& onDisk, const std::vector<CarColorEntry>& carColors);
 
 }  // namespace wheelwright::testing

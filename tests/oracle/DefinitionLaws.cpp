@@ -61,8 +61,7 @@ void RequireDefinitionsRead(const std::string& text) {
 void RequireDefinitionsWritten(const std::string& onDisk, const std::vector<IdeEntry>& ides) {
   const Table<IdeEntry> table = TableOf(ides);
   const std::string once = WriteDefinitions(onDisk, table);
-  RequireSameText(once, WriteDefinitionsPlainly(onDisk, ides),
-                  "a save writes what plain writing writes");
+  RequireSameText(once, WriteDefinitionsPlainly(onDisk, ides), "a save writes what plain writing writes");
   RequireSectionComments(onDisk, once, std::string::npos, {"cars"});
   if (std::any_of(ides.begin(), ides.end(), LooksForeign)) return;
   const std::string twice = Saved(once + "\r\n", table);
@@ -83,12 +82,10 @@ void RequireTidyDefinitionsKept(const TidyDefinitionFile& tidy) {
   const std::string saved = Saved(tidy.Text(), file.records);
   const std::string head = kBanner + tidy.before + "cars\r\n";
   const std::string tail = "end\r\n" + tidy.behind + "\r\n";
-  Require(
-      saved.starts_with(head) && saved.ends_with(tail) && saved.size() > head.size() + tail.size(),
-      "a save changes nothing around the section");
+  Require(saved.starts_with(head) && saved.ends_with(tail) && saved.size() > head.size() + tail.size(),
+          "a save changes nothing around the section");
   const std::string section = saved.substr(head.size(), saved.size() - head.size() - tail.size());
-  Require(PlainLines(section).size() == tidy.section.size(),
-          "a save writes a line for each record");
+  Require(PlainLines(section).size() == tidy.section.size(), "a save writes a line for each record");
   RequireSameFieldsAgain(saved, file.records);
   RequireSameText(Saved(saved, Read(saved).records), saved + "\r\n",
                   "a saved file that is loaded and saved again grows by an empty line");

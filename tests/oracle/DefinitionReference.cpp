@@ -12,10 +12,9 @@ bool BeginsWith(const std::string& line, const std::string& word) {
 
 IdeEntry RecordOf(std::string line) {
   IdeEntry entry;
-  FieldText* const mandatory[] = {&entry.ID,    &entry.ModelName,  &entry.TXDName,
-                                  &entry.Typ,   &entry.HandlingID, &entry.GameName,
-                                  &entry.Anim,  &entry.Klasse,     &entry.Frequenz,
-                                  &entry.Level, &entry.CompRules};
+  FieldText* const mandatory[] = {&entry.ID,         &entry.ModelName, &entry.TXDName,  &entry.Typ,
+                                  &entry.HandlingID, &entry.GameName,  &entry.Anim,     &entry.Klasse,
+                                  &entry.Frequenz,   &entry.Level,     &entry.CompRules};
   std::size_t position = 0;
   for (FieldText* field : mandatory) *field = TakeCommaField(line, position++);
   if (SplitAtCommas(line).size() >= 12) entry.Extra1 = TakeCommaField(line, 11);
@@ -24,15 +23,12 @@ IdeEntry RecordOf(std::string line) {
 }
 
 // A field, its comma and tab, and one more tab if it is shorter than seven characters.
-std::string Padded(const std::string& field) {
-  return field + (field.size() < 7 ? ",\t\t" : ",\t");
-}
+std::string Padded(const std::string& field) { return field + (field.size() < 7 ? ",\t\t" : ",\t"); }
 
 std::string LineOf(const IdeEntry& ide) {
-  std::string line = ide.ID + ",\t" + Padded(ide.ModelName) + Padded(ide.TXDName) + ide.Typ +
-                     ",\t" + Padded(ide.HandlingID) + Padded(ide.GameName) + Padded(ide.Anim) +
-                     Padded(ide.Klasse) + ide.Frequenz + ", \t" + ide.Level + ", \t" +
-                     ide.CompRules + ", \t";
+  std::string line = ide.ID + ",\t" + Padded(ide.ModelName) + Padded(ide.TXDName) + ide.Typ + ",\t" +
+                     Padded(ide.HandlingID) + Padded(ide.GameName) + Padded(ide.Anim) + Padded(ide.Klasse) +
+                     ide.Frequenz + ", \t" + ide.Level + ", \t" + ide.CompRules + ", \t";
   if (ide.Typ == "car") line += ide.Extra1 + ", \t" + ide.Extra2;
   if (ide.Typ == "plane") line += ide.Extra1;
   return line;

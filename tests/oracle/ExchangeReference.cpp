@@ -19,8 +19,7 @@ void AddName(const std::string& name, PlainImport& import) {
 
 }  // namespace
 
-PlainImport ImportPlainly(const std::string& text, std::vector<std::string> rows,
-                          std::vector<Car> cars) {
+PlainImport ImportPlainly(const std::string& text, std::vector<std::string> rows, std::vector<Car> cars) {
   PlainImport import{{}, std::move(rows), std::move(cars), {}};
   for (const std::string& line : PlainLines(text)) {
     const std::string head = line.substr(0, 14);

@@ -19,8 +19,7 @@ struct PlainImport {
 
 // Adds the vehicles of a file's text to the rows of a list, which may be out of order, and to a
 // table.
-PlainImport ImportPlainly(const std::string& text, std::vector<std::string> rows,
-                          std::vector<Car> cars);
+PlainImport ImportPlainly(const std::string& text, std::vector<std::string> rows, std::vector<Car> cars);
 
 std::string ExportPlainly(const PlainVehicles& vehicles);
 

@@ -14,8 +14,7 @@ namespace wheelwright::testing {
 namespace {
 
 struct Read {
-  explicit Read(const std::string& text)
-      : failure(NumberThrownBy([&] { ReadHandling(text, file); })) {}
+  explicit Read(const std::string& text) : failure(NumberThrownBy([&] { ReadHandling(text, file); })) {}
 
   std::string Saved(const std::string& onDisk) const {
     return WriteHandling(onDisk, {file.names, file.cars, file.author, file.created}) + "\r\n";
@@ -33,8 +32,8 @@ bool IsForeign(const std::string& line) {
 void RequireCommentsKept(const std::string& onDisk, const std::string& saved) {
   std::vector<std::string> kept;
   for (const std::string& line : PlainLines(onDisk)) {
-    const bool isOurs = HoldsInAnyCase(line, "author") || HoldsInAnyCase(line, "created") ||
-                        HoldsInAnyCase(line, "homepage");
+    const bool isOurs =
+        HoldsInAnyCase(line, "author") || HoldsInAnyCase(line, "created") || HoldsInAnyCase(line, "homepage");
     if (IsForeign(line) && !isOurs) kept.push_back(line);
   }
   RequireInOrder(kept, saved);
@@ -69,9 +68,7 @@ void RequireTokensInLines(const std::string& saved, const std::vector<Tokens>& v
   Require(found == vehicles, "every token comes through a save unchanged");
 }
 
-bool HoldsAMark(const Tokens& tokens) {
-  return Joined(tokens).find_first_of("%!$") != std::string::npos;
-}
+bool HoldsAMark(const Tokens& tokens) { return Joined(tokens).find_first_of("%!$") != std::string::npos; }
 
 // Each vehicle has one name and one line, and no name is found in another vehicle's line or in
 // front of a comment or special line.
@@ -108,8 +105,7 @@ void RequireHandlingWritten(const std::string& onDisk, const PlainVehicles& vehi
   for (int save = 1; save <= 3; ++save) {
     const std::string earlier = text;
     text = WriteHandling(earlier, written);
-    RequireSameText(text, WritePlainly(earlier, vehicles),
-                    "a save writes what plain writing writes");
+    RequireSameText(text, WritePlainly(earlier, vehicles), "a save writes what plain writing writes");
     text += "\r\n";
     if (save == 1) RequireCommentsKept(onDisk, text);
   }
@@ -128,8 +124,7 @@ void RequireHandlingSaved(const std::string& bytes) {
   RequireSameText(read.Saved(twice), twice, "a third save changes nothing");
   const std::vector<Tokens> listed = ListedTokens(read.file);
   RequireTokensInLines(once, listed);
-  if (std::any_of(listed.begin(), listed.end(), HoldsAMark) || !AreNamesClear(read.file, once))
-    return;
+  if (std::any_of(listed.begin(), listed.end(), HoldsAMark) || !AreNamesClear(read.file, once)) return;
   Require(TokensOf(Read(once).file.cars) == listed, "a saved file loads with the same tokens");
 }
 
@@ -137,11 +132,9 @@ void RequireTidyHandlingKept(const std::string& text) {
   const Read read(text);
   Require(read.failure == 0 && !read.file.names.empty(), "a tidy file loads");
   std::vector<Car> records = RecordsOf(read.file.cars);
-  std::sort(records.begin(), records.end(), [](const Car& left, const Car& right) {
-    return left.CarName.View() < right.CarName.View();
-  });
-  Require(RecordsOf(Read(read.Saved(text)).file.cars) == records,
-          "a saved file loads with the same records");
+  std::sort(records.begin(), records.end(),
+            [](const Car& left, const Car& right) { return left.CarName.View() < right.CarName.View(); });
+  Require(RecordsOf(Read(read.Saved(text)).file.cars) == records, "a saved file loads with the same records");
   RequireHandlingSaved(text);
 }
 

@@ -10,9 +10,7 @@ namespace {
 
 constexpr std::size_t kHead = 14;
 
-bool Holds(const std::string& text, const std::string& part) {
-  return text.find(part) != std::string::npos;
-}
+bool Holds(const std::string& text, const std::string& part) { return text.find(part) != std::string::npos; }
 
 std::string NameOf(const Tokens& tokens) { return tokens.empty() ? "0.0" : tokens[0]; }
 

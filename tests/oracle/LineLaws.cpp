@@ -43,8 +43,7 @@ void RequireToken(const SpaceLine& line, const Tokens& tokens, int index) {
   const bool isThere = static_cast<std::size_t>(index) < tokens.size();
   const std::string expected = isThere ? FieldOf(tokens, index) : rule.missing;
   LineProblems problems;
-  RequireSameText(ParseHandlingToken(line, index, problems), expected,
-                  "a token stands between its blanks");
+  RequireSameText(ParseHandlingToken(line, index, problems), expected, "a token stands between its blanks");
   Require(problems.empty() == (!isThere || Passes(rule.check, expected)),
           "a token that fails its check is a problem");
   if (problems.empty()) return;
@@ -72,15 +71,13 @@ void RequireSpaceLaws(const std::string& text) {
   const SpaceLine line(text);
   Require(line.CountSpaceFields() == static_cast<int>(tokens.size()), "tokens are counted");
   for (int index = 0; index < SpaceLine::kFieldsAtHand; ++index) {
-    RequireSameText(line.GetSpaceField(index), FieldOf(tokens, index),
-                    "a field stands between its blanks");
+    RequireSameText(line.GetSpaceField(index), FieldOf(tokens, index), "a field stands between its blanks");
   }
 }
 
 void RequireTokenLaws(const std::string& line) {
   const Tokens tokens = PlainTokens(line);
-  for (int index = 0; index < kTokensOfAVehicle; ++index)
-    RequireToken(SpaceLine(line), tokens, index);
+  for (int index = 0; index < kTokensOfAVehicle; ++index) RequireToken(SpaceLine(line), tokens, index);
 }
 
 }  // namespace wheelwright::testing

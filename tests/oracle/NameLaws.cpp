@@ -20,8 +20,7 @@ void RequirePositions(const std::vector<std::string>& names, const TextIndex& in
   };
   for (int position = 0; position < index.Count(); ++position) {
     const std::string& name = names[static_cast<std::size_t>(position)];
-    Require(index.First(name, nameAt) == FirstPlainly(names, name, 0),
-            "the first of equal texts is found");
+    Require(index.First(name, nameAt) == FirstPlainly(names, name, 0), "the first of equal texts is found");
     Require(index.Next(position, nameAt) == FirstPlainly(names, name, position + 1),
             "equal texts are found one behind the other");
   }

@@ -71,8 +71,7 @@ WrittenOut WriteOut(std::string text) {
   const std::string exponentText = mark < text.size() ? text.substr(mark + 1) : "";
   const std::string number = text.substr(0, mark);
   const std::size_t point = std::min(number.find_first_of(".,"), number.size());
-  WrittenOut out{number.substr(0, point),
-                 point < number.size() ? number.substr(point + 1) : std::string()};
+  WrittenOut out{number.substr(0, point), point < number.size() ? number.substr(point + 1) : std::string()};
   for (int left = ExponentOf(exponentText, text.size()); left != 0; left += left > 0 ? -1 : 1) {
     std::string& from = left > 0 ? out.fraction : out.whole;
     if (from.empty()) from = "0";

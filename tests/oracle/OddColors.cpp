@@ -14,11 +14,10 @@ std::string Component(Dice& dice) {
 }
 
 std::string Color(Dice& dice) {
-  return Strung(
-      {Component(dice), ",", Component(dice), ",", Component(dice),
-       dice.OneOf({"\t", "\t\t\t", "\t\t", " ", ",4\t"}),
-       dice.OneOf({"# 0 ", "# 1 ", "# 1 ", "\t#\t1\t", "#", "// ", "# "}),
-       dice.OneOf({"black", "Rot", "Blau", "Gelb", "rot", "dark red", "\xE4", "a - b", ""})});
+  return Strung({Component(dice), ",", Component(dice), ",", Component(dice),
+                 dice.OneOf({"\t", "\t\t\t", "\t\t", " ", ",4\t"}),
+                 dice.OneOf({"# 0 ", "# 1 ", "# 1 ", "\t#\t1\t", "#", "// ", "# "}),
+                 dice.OneOf({"black", "Rot", "Blau", "Gelb", "rot", "dark red", "\xE4", "a - b", ""})});
 }
 
 std::string Vehicle(Dice& dice, int colors) {
@@ -33,15 +32,15 @@ std::string Vehicle(Dice& dice, int colors) {
 }
 
 std::string Stray(Dice& dice) {
-  return dice.OneOf({"", "# comment", "    # comment", "     # 1 comment", "ab", "abcd", "#end",
-                     " ", "# file created with Wheelwright V0.9", "# 1 end",
+  return dice.OneOf({"", "# comment", "    # comment", "     # 1 comment", "ab", "abcd", "#end", " ",
+                     "# file created with Wheelwright V0.9", "# 1 end",
                      "     # File created with Wheelwright V0",
                      "  # HOMEPAGE: https://wheelwright.example/ x"});
 }
 
 std::string Mark(Dice& dice) {
-  return dice.OneOf({"col", "end", "car", "col #", "col  # x", "end #", "end  # x", "car # x",
-                     "colours", "cars", "ending", "Col", " end", "CAR"});
+  return dice.OneOf({"col", "end", "car", "col #", "col  # x", "end #", "end  # x", "car # x", "colours",
+                     "cars", "ending", "Col", " end", "CAR"});
 }
 
 std::string AnyLine(Dice& dice) {
@@ -70,8 +69,7 @@ Texts SomeLines(Dice& dice, int most) {
 std::string SomeForeignLines(Dice& dice) {
   std::string text;
   for (const std::string& line : SomeLines(dice, 5)) {
-    const bool isForeign =
-        !HoldsBanner(line) && !line.starts_with("col") && !line.starts_with("car");
+    const bool isForeign = !HoldsBanner(line) && !line.starts_with("col") && !line.starts_with("car");
     text += (isForeign ? line : "text # kept") + "\r\n";
   }
   return text;
@@ -131,8 +129,7 @@ std::string TidyColorFile(Dice& dice) {
   std::string text = SomeForeignLines(dice) + "col\r\n";
   const int colors = dice.Between(1, 6);
   for (int number = 0; number < colors; ++number) {
-    text +=
-        dice.OneOf({"0,0,0\t\t\t\t", "25,25,2\t\t\t\t", "25,25,25\t\t\t", "-100,300,32767\t\t\t"});
+    text += dice.OneOf({"0,0,0\t\t\t\t", "25,25,2\t\t\t\t", "25,25,25\t\t\t", "-100,300,32767\t\t\t"});
     text += "# " + std::to_string(number) + " " + dice.OneOf({"oak", "elm", "ASH", "\xFC", "a-b"});
     text += "\r\n";
   }

@@ -20,15 +20,15 @@ std::string Field(Dice& dice) {
 std::string Vehicle(Dice& dice) {
   const std::string typ =
       dice.OneOf({"car", "car", "car", "boat", "bike", "heli", "plane", "plane", "Car", "tank"});
-  std::string line = Strung({std::to_string(dice.Between(90, 160)), Comma(dice), Field(dice),
-                             Comma(dice), Field(dice), Comma(dice), typ, Comma(dice)});
+  std::string line = Strung({std::to_string(dice.Between(90, 160)), Comma(dice), Field(dice), Comma(dice),
+                             Field(dice), Comma(dice), typ, Comma(dice)});
   line += Strung({OddName(dice), Comma(dice), Field(dice), Comma(dice),
                   dice.OneOf({"null", "van", "coach", "swim"}), Comma(dice)});
-  line += Strung({dice.OneOf({"normal", "taxi", "big", "huge"}), Comma(dice),
-                  dice.OneOf({"10", "7", ""}), Comma(dice), "7", Comma(dice), "0"});
+  line += Strung({dice.OneOf({"normal", "taxi", "big", "huge"}), Comma(dice), dice.OneOf({"10", "7", ""}),
+                  Comma(dice), "7", Comma(dice), "0"});
   if (typ == "car" || dice.OneIn(4)) {
-    line += Strung({Comma(dice), dice.OneOf({"250", "237", "256", "257", "240", "-1", ""}),
-                    Comma(dice), dice.OneOf({"0.7", "1", ""})});
+    line += Strung({Comma(dice), dice.OneOf({"250", "237", "256", "257", "240", "-1", ""}), Comma(dice),
+                    dice.OneOf({"0.7", "1", ""})});
   } else if (typ == "plane") {
     line += Comma(dice) + "1";
   }
@@ -39,8 +39,7 @@ std::string Line(Dice& dice) {
   switch (dice.Below(14)) {
     case 13:
       return dice.OneOf({"# comment", " # blank in front", "#", "# end", "#cars",
-                         "# file created with wheelwright V0.9",
-                         "# Homepage: https://other.example/",
+                         "# file created with wheelwright V0.9", "# Homepage: https://other.example/",
                          "x # Homepage: https://wheelwright.example/ x"});
     case 12:
       return dice.OneOf({"end", "end # comment", " end", "END", "ending"});

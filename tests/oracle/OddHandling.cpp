@@ -36,12 +36,11 @@ std::string Vehicle(Dice& dice) {
 }
 
 std::string Comment(Dice& dice) {
-  return Strung(
-      {dice.OneOf({"; a", ";", "   ;b ", "; Author: Bob", "; Created 1999", ";Created 2001",
-                   "; it was created=2001", ";the end", "; % Author: x",
-                   "; File created with Wheelwright V0.9",
-                   "; HOMEPAGE: https://wheelwright.example/", "              ; far right"}),
-       dice.OneOf({"", "", " ", "\xE4 $", "&", " ;the end"})});
+  return Strung({dice.OneOf({"; a", ";", "   ;b ", "; Author: Bob", "; Created 1999", ";Created 2001",
+                             "; it was created=2001", ";the end", "; % Author: x",
+                             "; File created with Wheelwright V0.9",
+                             "; HOMEPAGE: https://wheelwright.example/", "              ; far right"}),
+                 dice.OneOf({"", "", " ", "\xE4 $", "&", " ;the end"})});
 }
 
 std::string MarkedLine(Dice& dice) {

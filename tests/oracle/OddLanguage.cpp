@@ -21,9 +21,8 @@ std::string OddLanguage(Dice& dice, bool isWhole) {
   std::string text;
   for (int entry = 0; entry < count; ++entry) {
     const bool isOdd = !isWhole && dice.OneIn(20);
-    text += isOdd
-                ? dice.OneOf({"", "&File", "a\\nb", "R&&D", "\xD6z", "\x81\x01", "<b>", "\\N\\x\\"})
-                : EntryText(entry);
+    text += isOdd ? dice.OneOf({"", "&File", "a\\nb", "R&&D", "\xD6z", "\x81\x01", "<b>", "\\N\\x\\"})
+                  : EntryText(entry);
     text += "\r\n";
   }
   return text;

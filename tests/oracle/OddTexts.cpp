@@ -43,8 +43,8 @@ std::vector<std::string> OddNames(Dice& dice) {
 
 std::string OddField(Dice& dice) {
   if (dice.OneIn(6)) return AnyBytes(dice, 9);
-  return dice.OneOf({"1", "bus", "six456", "seven67", "car", "plane", "boat", "Car", "\xE4\x01",
-                     "-1", "end", "col", "#", ";", "%y", "", "0.70", "author:"});
+  return dice.OneOf({"1", "bus", "six456", "seven67", "car", "plane", "boat", "Car", "\xE4\x01", "-1", "end",
+                     "col", "#", ";", "%y", "", "0.70", "author:"});
 }
 
 std::string TextOfLines(Dice& dice, const std::vector<std::string>& lines) {

@@ -10,8 +10,8 @@
 namespace wheelwright::testing {
 namespace {
 
-constexpr std::array<std::int16_t ColorEntry::*, 3> kComponents = {
-    &ColorEntry::Red, &ColorEntry::Green, &ColorEntry::Blue};
+constexpr std::array<std::int16_t ColorEntry::*, 3> kComponents = {&ColorEntry::Red, &ColorEntry::Green,
+                                                                   &ColorEntry::Blue};
 
 void CheckPosition(int position, std::size_t size, FailureNumber failure) {
   if (position < 0 || static_cast<std::size_t>(position) >= size) throw Failure(failure);
@@ -25,8 +25,8 @@ std::string Lines(const char* heading, const Texts& texts) {
 
 }  // namespace
 
-PaletteModel::PaletteModel(std::vector<ColorEntry> itsColors,
-                           std::vector<CarColorEntry> itsCarColors, const std::string& vehicle)
+PaletteModel::PaletteModel(std::vector<ColorEntry> itsColors, std::vector<CarColorEntry> itsCarColors,
+                           const std::string& vehicle)
     : colors_(std::move(itsColors)), carColors_(std::move(itsCarColors)) {
   for (const ColorEntry& color : colors_) colorRows.push_back(PlainLabel(color));
   LeavePalettePage();
@@ -191,8 +191,8 @@ std::string PaletteModel::State() const {
          Lines("chosen and current",
                {std::to_string(colorRow_), std::to_string(pairRow_), std::to_string(firstRow_),
                 std::to_string(secondRow_), std::to_string(current_)}) +
-         Lines("name and bars", {name_, std::to_string(bars_[0]), std::to_string(bars_[1]),
-                                 std::to_string(bars_[2])}) +
+         Lines("name and bars",
+               {name_, std::to_string(bars_[0]), std::to_string(bars_[1]), std::to_string(bars_[2])}) +
          (isSaved_ ? "saved" : "pending");
 }
 
@@ -200,8 +200,7 @@ std::string StateOf(const TestSession& test) {
   const FrmMain& main = test.main;
   const bool offerTheSame = main.cmbColor1.Rows() == main.cmbColor2.Rows();
   return Lines("colours", TextsOf(test.vars.Colors)) + Lines("rows", main.lstColors.Rows()) +
-         Lines("vehicles", TextsOf(test.vars.CarColors)) +
-         Lines("pairs", main.lstCarColors.Rows()) +
+         Lines("vehicles", TextsOf(test.vars.CarColors)) + Lines("pairs", main.lstCarColors.Rows()) +
          Lines("offered", offerTheSame ? main.cmbColor1.Rows() : Texts{"not the same in both"}) +
          Lines("shown", test.desktop.shown) +
          Lines("chosen and current",

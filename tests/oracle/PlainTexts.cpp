@@ -6,9 +6,7 @@
 namespace wheelwright::testing {
 namespace {
 
-bool Begins(std::string_view line, const std::string& name) {
-  return line.substr(0, name.size()) == name;
-}
+bool Begins(std::string_view line, const std::string& name) { return line.substr(0, name.size()) == name; }
 
 }  // namespace
 
@@ -96,8 +94,7 @@ bool HoldsBanner(const std::string& line) {
   return HoldsInAnyCase(line, withoutVersion) || HoldsInAnyCase(line, banner[1]);
 }
 
-std::vector<NameHit> WalkForBeginnings(const std::vector<std::string>& names,
-                                       std::string_view line) {
+std::vector<NameHit> WalkForBeginnings(const std::vector<std::string>& names, std::string_view line) {
   std::vector<NameHit> hits;
   for (std::size_t j = 0; j < names.size(); ++j) {
     if (Begins(line, names[j])) hits.push_back({static_cast<int>(j), true});
@@ -105,8 +102,7 @@ std::vector<NameHit> WalkForBeginnings(const std::vector<std::string>& names,
   return hits;
 }
 
-std::vector<NameHit> WalkForNamesAnywhere(const std::vector<std::string>& names,
-                                          std::string_view line) {
+std::vector<NameHit> WalkForNamesAnywhere(const std::vector<std::string>& names, std::string_view line) {
   const std::string folded = FoldedCase(line);
   std::vector<NameHit> hits;
   for (std::size_t j = 0; j < names.size(); ++j) {

@@ -38,11 +38,9 @@ std::string TakeCommaField(std::string& line, std::size_t index);
 bool HoldsBanner(const std::string& line);
 
 // The names that the line begins with byte for byte, by a walk over all of them.
-std::vector<NameHit> WalkForBeginnings(const std::vector<std::string>& names,
-                                       std::string_view line);
+std::vector<NameHit> WalkForBeginnings(const std::vector<std::string>& names, std::string_view line);
 
 // The names that the line holds anywhere, ignoring case, by a walk over all of them.
-std::vector<NameHit> WalkForNamesAnywhere(const std::vector<std::string>& names,
-                                          std::string_view line);
+std::vector<NameHit> WalkForNamesAnywhere(const std::vector<std::string>& names, std::string_view line);
 
 }  // namespace wheelwright::testing

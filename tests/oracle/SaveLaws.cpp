@@ -17,14 +17,13 @@ void RequireInOrder(const std::vector<std::string>& lines, const std::string& sa
   }
 }
 
-void RequireSectionComments(const std::string& onDisk, const std::string& saved,
-                            std::size_t columns, const std::vector<std::string>& sections) {
+void RequireSectionComments(const std::string& onDisk, const std::string& saved, std::size_t columns,
+                            const std::vector<std::string>& sections) {
   std::vector<std::string> kept;
   bool beforeSection = true;
   for (const std::string& line : PlainLines(onDisk)) {
     const bool isComment = line.substr(0, columns).find('#') != std::string::npos;
-    const bool isOurs =
-        isComment && (HoldsInAnyCase(line, "created") || HoldsInAnyCase(line, "homepage"));
+    const bool isOurs = isComment && (HoldsInAnyCase(line, "created") || HoldsInAnyCase(line, "homepage"));
     if ((isComment || beforeSection) && !isOurs) kept.push_back(line);
     const auto opensHere = [&](const std::string& word) { return line.starts_with(word); };
     if (std::any_of(sections.begin(), sections.end(), opensHere)) beforeSection = false;
@@ -32,8 +31,7 @@ void RequireSectionComments(const std::string& onDisk, const std::string& saved,
   RequireInOrder(kept, saved);
 }
 
-void RequireOnlyGrowth(const std::string& earlier, const std::string& later,
-                       const std::string& growth) {
+void RequireOnlyGrowth(const std::string& earlier, const std::string& later, const std::string& growth) {
   if (later == earlier) return;
   RequireSameText(later, earlier + growth, "a save adds its line ends at most");
 }

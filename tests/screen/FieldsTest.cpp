@@ -25,10 +25,9 @@ std::string Described(const FrmMain& main, const FieldRow<Record>& field) {
   const auto& [label, hint] = LabelsOf(main, field);
   const Wording info = hint ? hint->Words() : Wording{};
   const auto nameOf = [&](auto input) { return (main.*input).Name(); };
-  return Joined({std::to_string(field.tab), std::to_string(field.tabRow), label.Name(),
-                 label.Words().design, std::to_string(label.Words().lang),
-                 std::visit(nameOf, field.input), hint ? hint->Name() : "", info.design,
-                 std::to_string(info.lang)});
+  return Joined({std::to_string(field.tab), std::to_string(field.tabRow), label.Name(), label.Words().design,
+                 std::to_string(label.Words().lang), std::visit(nameOf, field.input),
+                 hint ? hint->Name() : "", info.design, std::to_string(info.lang)});
 }
 
 template <class Fields, class Expected>
@@ -58,11 +57,10 @@ struct ExpectedCodes {
 };
 
 TEST(FieldsTest, ATranslatedListStandsForItsCodes) {
-  const std::array<ExpectedCodes, 4> expected = {
-      {{"cmbAntrieb", &Car::DriveType, "FR4", 46},
-       {"cmbMotor", &Car::EngineType, "PDE", 50},
-       {"cmbFrontLichter", &Car::FrontLights, "0123", 82},
-       {"cmbRearLichter", &Car::RearLights, "0123", 87}}};
+  const std::array<ExpectedCodes, 4> expected = {{{"cmbAntrieb", &Car::DriveType, "FR4", 46},
+                                                  {"cmbMotor", &Car::EngineType, "PDE", 50},
+                                                  {"cmbFrontLichter", &Car::FrontLights, "0123", 82},
+                                                  {"cmbRearLichter", &Car::RearLights, "0123", 87}}};
   const FrmMain main;
   std::size_t next = 0;
   for (const FieldRow<Car>& field : kHandlingFields) {

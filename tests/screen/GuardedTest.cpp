@@ -63,8 +63,7 @@ TEST(GuardedTest, ALackOfMemoryIsAFailureLikeAnyOther) {
 
 TEST(GuardedTest, AForeignExceptionIsThrownOn) {
   TestSession test;
-  EXPECT_THROW(Guarded(test.session, [] { throw std::runtime_error("foreign"); }),
-               std::runtime_error);
+  EXPECT_THROW(Guarded(test.session, [] { throw std::runtime_error("foreign"); }), std::runtime_error);
   EXPECT_EQ(test.desktop.shown, Shown{});
 }
 

@@ -45,8 +45,8 @@ std::string KindByName(const std::string& name) {
   return name.starts_with("cmb") ? "pick list" : "check box";
 }
 
-std::string Described(const std::string& name, const std::string& kind,
-                      const std::string& container, int page, const std::string& caption) {
+std::string Described(const std::string& name, const std::string& kind, const std::string& container,
+                      int page, const std::string& caption) {
   return name + ", " + kind + " in " + container + "/" + std::to_string(page) + ": " + caption;
 }
 
@@ -107,8 +107,7 @@ std::vector<Kind*> AllOf(const Window& window) {
 Texts Translations(const std::string& name, std::span<const Wording> wordings) {
   Texts texts;
   for (const auto& [design, lang] : wordings) {
-    texts.push_back(name + std::to_string(texts.size()) + ": " + design + ", " +
-                    std::to_string(lang));
+    texts.push_back(name + std::to_string(texts.size()) + ": " + design + ", " + std::to_string(lang));
   }
   return texts;
 }
@@ -166,9 +165,8 @@ TEST(InventoryTest, TheWindowsHaveTheirTitlesAndAreNotUpYet) {
 }
 
 TEST(InventoryTest, WhatNeedsAFileIsDisabledAtFirst) {
-  EXPECT_EQ(NamesWith(FrmMain(), IsDisabled),
-            (Texts{"FrameAutos", "cmdSave", "cmdSaveAs", "cmdUndo", "cmdBackup", "SSTab1", "SSTab2",
-                   "SSTab3"}));
+  EXPECT_EQ(NamesWith(FrmMain(), IsDisabled), (Texts{"FrameAutos", "cmdSave", "cmdSaveAs", "cmdUndo",
+                                                     "cmdBackup", "SSTab1", "SSTab2", "SSTab3"}));
   EXPECT_EQ(NamesWith(FrmError(), IsDisabled), Texts{});
   EXPECT_EQ(NamesWith(FrmExport(), IsDisabled), Texts{});
 }
@@ -207,12 +205,12 @@ TEST(InventoryTest, ThePagesHaveTheirEntriesOfTheLanguageTable) {
     const Texts texts = Translations(group->Name() + "/", group->Words());
     tabs.insert(tabs.end(), texts.begin(), texts.end());
   }
-  EXPECT_EQ(tabs, (Texts{"SSTab1/0: Allgemein, 2", "SSTab1/1: Dimensionen, 3",
-                         "SSTab1/2: Leistung&&Antrieb, 4", "SSTab1/3: Bremsen, 5",
-                         "SSTab1/4: Aufhängung, 6", "SSTab1/5: Flags, 7", "SSTab1/6: Bild, 64",
-                         "SSTab1/7: Sonstiges, 62", "SSTab2/0: ID&&Referenzen, 123",
-                         "SSTab2/1: Fahrzeug-Eigenschaften, 124", "SSTab2/2: Bild, 64",
-                         "SSTab3/0: Farbentabelle, 155", "SSTab3/1: Autotabelle, 156"}));
+  EXPECT_EQ(tabs,
+            (Texts{"SSTab1/0: Allgemein, 2", "SSTab1/1: Dimensionen, 3", "SSTab1/2: Leistung&&Antrieb, 4",
+                   "SSTab1/3: Bremsen, 5", "SSTab1/4: Aufhängung, 6", "SSTab1/5: Flags, 7",
+                   "SSTab1/6: Bild, 64", "SSTab1/7: Sonstiges, 62", "SSTab2/0: ID&&Referenzen, 123",
+                   "SSTab2/1: Fahrzeug-Eigenschaften, 124", "SSTab2/2: Bild, 64",
+                   "SSTab3/0: Farbentabelle, 155", "SSTab3/1: Autotabelle, 156"}));
 }
 
 TEST(InventoryTest, EachCaptionHasItsEntryOfTheLanguageTable) {

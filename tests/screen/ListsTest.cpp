@@ -191,11 +191,9 @@ TEST_F(ListsTest, ASortedListIgnoresCaseAndPutsAPrefixFirst) {
 }
 
 TEST_F(ListsTest, ASortedListPutsUmlautsBehindAllPlainLettersInEitherCase) {
-  for (const char* name : {"äB", "Zebra", "Öl", "ÄA", "ärger", "über"})
-    sorted.AddRow(FromUnicode(name));
+  for (const char* name : {"äB", "Zebra", "Öl", "ÄA", "ärger", "über"}) sorted.AddRow(FromUnicode(name));
   Rows rows;
-  for (const char* name : {"Zebra", "ÄA", "äB", "ärger", "Öl", "über"})
-    rows.push_back(FromUnicode(name));
+  for (const char* name : {"Zebra", "ÄA", "äB", "ärger", "Öl", "über"}) rows.push_back(FromUnicode(name));
   EXPECT_EQ(sorted.Rows(), rows);
 }
 

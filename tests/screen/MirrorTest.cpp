@@ -24,14 +24,11 @@ std::string StateOf(const Control& control) {
   return std::string(control.IsEnabled() ? "on" : "off") + (control.IsVisible() ? "" : " hidden");
 }
 
-std::string FrontOf(const TabGroup& tabs) {
-  return Joined(tabs.Tabs()) + std::to_string(tabs.Tab());
-}
+std::string FrontOf(const TabGroup& tabs) { return Joined(tabs.Tabs()) + std::to_string(tabs.Tab()); }
 
 std::string PictureOf(const Picture& picture) {
-  return picture.File() + " " + std::to_string(picture.Width()) + "x" +
-         std::to_string(picture.Height()) + " at " +
-         std::to_string(static_cast<int>(picture.Left())) + "," +
+  return picture.File() + " " + std::to_string(picture.Width()) + "x" + std::to_string(picture.Height()) +
+         " at " + std::to_string(static_cast<int>(picture.Left())) + "," +
          std::to_string(static_cast<int>(picture.Top()));
 }
 
@@ -152,8 +149,8 @@ TEST_F(MirrorTest, OfRows) {
   list.ReplaceRow(0, "BOAT");
   list.RemoveRow(0);
   list.Clear();
-  EXPECT_EQ(found, (Texts{"BUS;-1", "BUS;TAXI;VAN;-1", "BUS;TAXI;VAN;2", "clicked",
-                          "BOAT;TAXI;VAN;2", "TAXI;VAN;1", "-1"}));
+  EXPECT_EQ(found, (Texts{"BUS;-1", "BUS;TAXI;VAN;-1", "BUS;TAXI;VAN;2", "clicked", "BOAT;TAXI;VAN;2",
+                          "TAXI;VAN;1", "-1"}));
 }
 
 TEST_F(MirrorTest, OfMarks) {
@@ -164,8 +161,8 @@ TEST_F(MirrorTest, OfMarks) {
   list.AddRow("AXO");
   list.RemoveRow(0);
   list.RemoveMarked();
-  EXPECT_EQ(found, (Texts{"BUS;TAXI;VAN;", "BUS;TAXI;VAN;02", "AXO;BUS;TAXI;VAN;13",
-                          "BUS;TAXI;VAN;02", "TAXI;"}));
+  EXPECT_EQ(found,
+            (Texts{"BUS;TAXI;VAN;", "BUS;TAXI;VAN;02", "AXO;BUS;TAXI;VAN;13", "BUS;TAXI;VAN;02", "TAXI;"}));
 }
 
 }  // namespace

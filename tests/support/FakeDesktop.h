@@ -19,9 +19,7 @@ struct FileChoice {
 
 class FakeDesktop : public Desktop {
  public:
-  void ShowInformation(const std::string& text) override {
-    shown.push_back("information: " + text);
-  }
+  void ShowInformation(const std::string& text) override { shown.push_back("information: " + text); }
   void ShowError(const std::string& text) override { shown.push_back("error: " + text); }
   bool AskQuestion(const std::string& text) override { return Ask("question: " + text); }
   bool AskYesNo(const std::string& text) override { return Ask("yesno: " + text); }
@@ -35,8 +33,7 @@ class FakeDesktop : public Desktop {
   // Prepared by the test. A question or dialog without an answer fails the test.
   std::deque<bool> answers;
   std::deque<std::optional<FileChoice>> choices;  // nothing: the dialog is cancelled
-  std::map<std::string, PictureSize>
-      pictures;  // by file; any other file can't be read as a picture
+  std::map<std::string, PictureSize> pictures;    // by file; any other file can't be read as a picture
 
   // What happened, in order: "information: ...", "error: ...", "question: ...", "yesno: ...",
   // "open", "save", "hourglass", "normal", "shell: ...", "end".

@@ -32,8 +32,7 @@ void FaultyFiles::FailAt(int call, Fault fault) {
   fault_ = fault;
 }
 
-Fault FaultyFiles::Enter(Operation operation, const std::string& path,
-                         std::string_view text) const {
+Fault FaultyFiles::Enter(Operation operation, const std::string& path, std::string_view text) const {
   calls.push_back({operation, path, std::string(text)});
   if (static_cast<int>(calls.size()) != faultyCall_) return Fault::None;
   DoToDisk(fault_, path);
@@ -44,9 +43,8 @@ void FaultyFiles::DoToDisk(Fault fault, const std::string& path) const {
   switch (fault) {
     case Fault::Missing:
     case Fault::Vanished:
-      std::erase_if(disk.contents, [&](const auto& file) {
-        return file.first == path || LiesIn(file.first, path);
-      });
+      std::erase_if(disk.contents,
+                    [&](const auto& file) { return file.first == path || LiesIn(file.first, path); });
       break;
     case Fault::NoFolder:
       disk.contents.erase(path);

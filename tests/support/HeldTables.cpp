@@ -90,8 +90,7 @@ void HoldCarColors(TestSession& session, const std::vector<ColorEntry>& colors,
                    const std::vector<CarColorEntry>& carColors) {
   session.vars.CurrentFileType = kColorFile;
   Hold(session, colors, session.vars.Colors, session.vars.Kopie_Colors, &ColorEntry::ColorName);
-  Hold(session, carColors, session.vars.CarColors, session.vars.Kopie_CarColors,
-       &CarColorEntry::ModelName);
+  Hold(session, carColors, session.vars.CarColors, session.vars.Kopie_CarColors, &CarColorEntry::ModelName);
 }
 
 void PickByHand(PickList& list, const std::string& text) {

@@ -7,8 +7,7 @@
 
 namespace wheelwright::testing {
 
-std::optional<std::string> MemorySettings::Get(const std::string& section,
-                                               const std::string& key) const {
+std::optional<std::string> MemorySettings::Get(const std::string& section, const std::string& key) const {
   const auto found = values.find({section, key});
   if (found == values.end()) return std::nullopt;
   return found->second;
@@ -22,8 +21,7 @@ std::string LangText(int entry) {
 TestSession::TestSession() {
   WireEvents(session);
   vars.AppPath = "/app/";
-  for (int entry = 0; entry < 182; ++entry)
-    vars.Lang[static_cast<std::size_t>(entry)] = LangText(entry);
+  for (int entry = 0; entry < 182; ++entry) vars.Lang[static_cast<std::size_t>(entry)] = LangText(entry);
   ApplyLanguage(session);
   main.SetVisible(true);
 }

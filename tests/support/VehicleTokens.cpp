@@ -62,9 +62,7 @@ LineProblem WrongCount(const std::string& vehicle, int tokens) {
 
 LineProblem BadToken(const std::string& vehicle, int index) {
   const auto place = static_cast<std::size_t>(index);
-  return {.vehicle = vehicle,
-          .field = kHandlingTokens[place].value,
-          .failed = kTokenRules[place].check};
+  return {.vehicle = vehicle, .field = kHandlingTokens[place].value, .failed = kTokenRules[place].check};
 }
 
 std::vector<ReportList::Row> RowsOf(const LineProblems& problems, const FrmMain& captions) {
@@ -114,16 +112,15 @@ std::string Joined(const Tokens& tokens, std::string_view separator) {
 }
 
 Car CarOf(const Tokens& t) {
-  return Car{kOrdinaryVehicle, t.at(0),  t.at(1),  t.at(2),  t.at(3),  t.at(4),  t.at(5),
-             t.at(6),          t.at(7),  t.at(8),  t.at(9),  t.at(10), t.at(11), t.at(12),
-             t.at(13),         t.at(14), t.at(15), t.at(16), t.at(17), t.at(18), t.at(19),
-             t.at(20),         t.at(21), t.at(22), t.at(23), t.at(24), t.at(25), t.at(26),
-             t.at(27),         t.at(28), t.at(29), t.at(30), t.at(31), t.at(32)};
+  return Car{kOrdinaryVehicle, t.at(0),  t.at(1),  t.at(2),  t.at(3),  t.at(4),  t.at(5),  t.at(6),  t.at(7),
+             t.at(8),          t.at(9),  t.at(10), t.at(11), t.at(12), t.at(13), t.at(14), t.at(15), t.at(16),
+             t.at(17),         t.at(18), t.at(19), t.at(20), t.at(21), t.at(22), t.at(23), t.at(24), t.at(25),
+             t.at(26),         t.at(27), t.at(28), t.at(29), t.at(30), t.at(31), t.at(32)};
 }
 
 Tokens TokensOf(const Car& car) {
-  const auto& [kind, t0, t1, t2, t3, t4, t5, t6, t7, t8, t9, t10, t11, t12, t13, t14, t15, t16, t17,
-               t18, t19, t20, t21, t22, t23, t24, t25, t26, t27, t28, t29, t30, t31, t32] = car;
+  const auto& [kind, t0, t1, t2, t3, t4, t5, t6, t7, t8, t9, t10, t11, t12, t13, t14, t15, t16, t17, t18, t19,
+               t20, t21, t22, t23, t24, t25, t26, t27, t28, t29, t30, t31, t32] = car;
   return {t0,  t1,  t2,  t3,  t4,  t5,  t6,  t7,  t8,  t9,  t10, t11, t12, t13, t14, t15, t16,
           t17, t18, t19, t20, t21, t22, t23, t24, t25, t26, t27, t28, t29, t30, t31, t32};
 }

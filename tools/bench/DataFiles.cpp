@@ -53,9 +53,8 @@ std::string DefinitionText(int vehicles) {
   std::string text = "# Vehicles of Marlow Bay\r\ncars\r\n";
   for (int vehicle = 0; vehicle < vehicles; ++vehicle) {
     const std::string name = NameOf(vehicle);
-    text += std::to_string(100 + vehicle) + ",\t" + name + ", \t" + name + ", \tcar,\t" + name +
-            ",\tNAME" + std::to_string(vehicle % 1000) +
-            ",\tnull,\tnormal,\t10,\t7,\t3210, 237, 0.7\r\n";
+    text += std::to_string(100 + vehicle) + ",\t" + name + ", \t" + name + ", \tcar,\t" + name + ",\tNAME" +
+            std::to_string(vehicle % 1000) + ",\tnull,\tnormal,\t10,\t7,\t3210, 237, 0.7\r\n";
   }
   return text + "end\r\n";
 }

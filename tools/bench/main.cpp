@@ -30,8 +30,7 @@ struct NamedAction {
 };
 
 template <class Screen>
-void Time(benchmark::State& state, const DataFile& data, Action<Screen> action,
-          const Folders& folders) {
+void Time(benchmark::State& state, const DataFile& data, Action<Screen> action, const Folders& folders) {
   const auto vehicles = static_cast<int>(state.range(0));
   const std::string path = folders.data + "/" + data.name;
   DiskFiles().Write(path, data.text(vehicles));
@@ -51,9 +50,7 @@ void Register(const std::string& screen, const Folders& folders) {
   };
   for (const DataFile* data : {&kHandlingData, &kDefinitionData, &kColorData}) {
     for (const NamedAction<Screen>& named : kActions) {
-      const auto run = [=](benchmark::State& state) {
-        Time<Screen>(state, *data, named.action, folders);
-      };
+      const auto run = [=](benchmark::State& state) { Time<Screen>(state, *data, named.action, folders); };
       const std::string name = screen + "/" + data->kind + "/" + named.name;
       benchmark::RegisterBenchmark(name.c_str(), run)
           ->Arg(500)

@@ -37,8 +37,7 @@ std::vector<Fault> FaultsOfName(const std::string& name) {
     faults.push_back({{}, "the name must end in .lng, or the program doesn't find the file"});
   }
   if (ToUnicode(FromUnicode(name)) != name) {
-    faults.push_back(
-        {{}, "the name has a letter that Windows-1252 lacks; the program couldn't show it"});
+    faults.push_back({{}, "the name has a letter that Windows-1252 lacks; the program couldn't show it"});
   }
   return faults;
 }

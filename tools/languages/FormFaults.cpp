@@ -30,13 +30,10 @@ bool IsUtf8(const std::string& text) {
   return !std::all_of(text.begin(), text.end(), IsPlain) && ToUnicode(FromUnicode(text)) == text;
 }
 
-bool HasStrayLineEnd(const std::string& entry) {
-  return entry.find_first_of("\r\n") != std::string::npos;
-}
+bool HasStrayLineEnd(const std::string& entry) { return entry.find_first_of("\r\n") != std::string::npos; }
 
 // The line ends first: without them nothing else can be told of a line.
-std::vector<Fault> LineEndFaults(const std::string& bytes,
-                                 const std::vector<std::string>& entries) {
+std::vector<Fault> LineEndFaults(const std::string& bytes, const std::vector<std::string>& entries) {
   if (std::any_of(entries.begin(), entries.end(), HasStrayLineEnd)) {
     return {{{}, "has lines that don't end in CR LF; save it with the line ends of Windows"}};
   }
@@ -53,8 +50,7 @@ void AddCodePageFaults(std::size_t entry, const std::string& text, std::vector<F
   }
   for (const char byte : text) {
     if (kBytesWithoutCharacter.find(byte) != std::string_view::npos) {
-      faults.push_back(
-          {entry, "has the byte " + InHex(byte) + ", which is no character of Windows-1252"});
+      faults.push_back({entry, "has the byte " + InHex(byte) + ", which is no character of Windows-1252"});
     }
     if (IsControl(byte)) {
       faults.push_back({entry, "has the control character " + InHex(byte) + "; take it out"});

@@ -95,9 +95,8 @@ class KeyCheck {
     const std::size_t first = std::min(one, other);
     const std::size_t second = std::max(one, other);
     if (!clashes_.emplace(first, second).second) return;
-    Add(second, "has the key \"" + ToUnicode(keys) + "\" together with entry " +
-                    std::to_string(first) + " (" + ToUnicode(entries_[first]) +
-                    ") in the same window or tab; choose another letter");
+    Add(second, "has the key \"" + ToUnicode(keys) + "\" together with entry " + std::to_string(first) +
+                    " (" + ToUnicode(entries_[first]) + ") in the same window or tab; choose another letter");
   }
 
   const std::vector<std::string>& entries_;
@@ -108,8 +107,6 @@ class KeyCheck {
 
 }  // namespace
 
-std::vector<Fault> KeyFaults(const std::vector<std::string>& entries) {
-  return KeyCheck(entries).Faults();
-}
+std::vector<Fault> KeyFaults(const std::vector<std::string>& entries) { return KeyCheck(entries).Faults(); }
 
 }  // namespace wheelwright::languages

@@ -11,8 +11,7 @@ namespace {
 std::string PlaceOf(std::size_t entry, const std::map<std::size_t, Sighting>& sightings) {
   const auto sighting = sightings.find(entry);
   const std::string control = sighting == sightings.end() ? "a message" : sighting->second.control;
-  return " entry " + std::to_string(entry) + " (line " + std::to_string(entry + 1) + ", " +
-         control + ")";
+  return " entry " + std::to_string(entry) + " (line " + std::to_string(entry + 1) + ", " + control + ")";
 }
 
 }  // namespace
@@ -22,8 +21,7 @@ std::string ReportOf(const std::string& file, const std::vector<Fault>& faults) 
   const std::map<std::size_t, Sighting> sightings = SightingsByEntry(AllViews());
   std::string report;
   for (const Fault& fault : faults) {
-    report += file + ":" + (fault.entry ? PlaceOf(*fault.entry, sightings) : "") + " " +
-              fault.text + "\n";
+    report += file + ":" + (fault.entry ? PlaceOf(*fault.entry, sightings) : "") + " " + fault.text + "\n";
   }
   return report;
 }

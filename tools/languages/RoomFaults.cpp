@@ -38,8 +38,7 @@ void LayOut() {
 
 class RoomCheck {
  public:
-  explicit RoomCheck(const std::vector<std::string>& entries)
-      : entries_(entries), screen_(unread_) {
+  explicit RoomCheck(const std::vector<std::string>& entries) : entries_(entries), screen_(unread_) {
     screen_.windows.Of(Main()).setUpdatesEnabled(false);  // nothing looks at what is painted
     screen_.windows.Of(Main()).show();
   }
@@ -87,13 +86,12 @@ void RoomCheck::CheckProblems() {
   for (const View& view : AllViews()) {
     for (const Sighting& sighting : view) {
       const Control* control = Main().Find(sighting.control);
-      const bool isField = control != nullptr && sighting.use == Use::Label &&
-                           control->Container() == &Main().SSTab1;
+      const bool isField =
+          control != nullptr && sighting.use == Use::Label && control->Container() == &Main().SSTab1;
       if (isField) CheckColumn(kFieldColumn, sighting.entry, entries_[sighting.entry]);
     }
   }
-  CheckColumn(kProblemColumn, kWrongCount,
-              entries_[kWrongCount] + ": 100 " + entries_[kExpectedCount]);
+  CheckColumn(kProblemColumn, kWrongCount, entries_[kWrongCount] + ": 100 " + entries_[kExpectedCount]);
   for (const std::size_t entry : kProblems) CheckColumn(kProblemColumn, entry, entries_[entry]);
   for (std::size_t column = 0; column < kHeaders.size(); ++column) {
     CheckHeader(static_cast<int>(column), kHeaders[column]);
@@ -118,8 +116,8 @@ void RoomCheck::CheckHeader(int column, std::size_t entry) {
 
 void RoomCheck::AddTooWide(std::size_t entry, int width, int room, const std::string& where) {
   if (width <= room) return;
-  const Fault fault = {entry, "is " + std::to_string(width) + " pixels wide " + where +
-                                  std::to_string(room) + "; shorten it"};
+  const Fault fault = {
+      entry, "is " + std::to_string(width) + " pixels wide " + where + std::to_string(room) + "; shorten it"};
   if (std::find(faults_.begin(), faults_.end(), fault) == faults_.end()) faults_.push_back(fault);
 }
 
@@ -147,8 +145,6 @@ std::string RoomCheck::EntriesToBlame(std::int16_t lineKind, int width) {
 
 }  // namespace
 
-std::vector<Fault> RoomFaults(const std::vector<std::string>& entries) {
-  return RoomCheck(entries).Faults();
-}
+std::vector<Fault> RoomFaults(const std::vector<std::string>& entries) { return RoomCheck(entries).Faults(); }
 
 }  // namespace wheelwright::languages

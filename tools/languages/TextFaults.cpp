@@ -78,8 +78,8 @@ class TextCheck {
     for (const FileKind& kind : kFileKinds) {
       const std::size_t entry = kind.name;
       if (entries_[entry].find_first_of("*()|") == std::string::npos) continue;
-      Add(entry, "must be words only; the program puts \" (*." + std::string(kind.ending) +
-                     ")\" behind them");
+      Add(entry,
+          "must be words only; the program puts \" (*." + std::string(kind.ending) + ")\" behind them");
     }
     if (entries_[kOtherCount].ends_with(':')) {
       Add(kOtherCount, "ends in a colon, which the program puts there itself; take it out");
@@ -132,8 +132,6 @@ void TextCheck::CheckRanges() {
 
 }  // namespace
 
-std::vector<Fault> TextFaults(const std::vector<std::string>& entries) {
-  return TextCheck(entries).Faults();
-}
+std::vector<Fault> TextFaults(const std::vector<std::string>& entries) { return TextCheck(entries).Faults(); }
 
 }  // namespace wheelwright::languages

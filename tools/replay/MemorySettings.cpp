@@ -2,8 +2,7 @@
 
 namespace wheelwright::replay {
 
-std::optional<std::string> MemorySettings::Get(const std::string& section,
-                                               const std::string& key) const {
+std::optional<std::string> MemorySettings::Get(const std::string& section, const std::string& key) const {
   const auto itsSection = sections_.find(section);
   if (itsSection == sections_.end()) return std::nullopt;
   const auto value = itsSection->second.find(key);
@@ -11,8 +10,7 @@ std::optional<std::string> MemorySettings::Get(const std::string& section,
   return value->second;
 }
 
-void MemorySettings::Set(const std::string& section, const std::string& key,
-                         const std::string& value) {
+void MemorySettings::Set(const std::string& section, const std::string& key, const std::string& value) {
   sections_[section][key] = value;
 }
 

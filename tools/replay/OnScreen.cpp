@@ -32,8 +32,8 @@ class Comparison {
  public:
   void Add(const char* what, const QString& shown, const QString& meant) {
     if (shown == meant || !first_.empty()) return;
-    first_ = std::string(what) + " \"" + shown.toStdString() + "\" instead of \"" +
-             meant.toStdString() + "\"";
+    first_ =
+        std::string(what) + " \"" + shown.toStdString() + "\" instead of \"" + meant.toStdString() + "\"";
   }
   void Add(const char* what, int shown, int meant) {
     Add(what, QString::number(shown), QString::number(meant));
@@ -92,8 +92,7 @@ void CompareChoice(const RowList& list, const std::vector<int>& chosen, const QL
 
 void CompareTabs(const TabGroup& group, const QTabWidget& shown, Comparison& comparison) {
   QString captions;
-  for (const std::string& tab : group.Tabs())
-    captions += AsWritten(tab).replace("\r\n", "\n") + "|";
+  for (const std::string& tab : group.Tabs()) captions += AsWritten(tab).replace("\r\n", "\n") + "|";
   QString shownCaptions;
   for (int tab = 0; tab < shown.count(); ++tab) shownCaptions += AsRead(shown.tabText(tab)) + "|";
   comparison.Add("captions", shownCaptions, captions);
@@ -101,8 +100,7 @@ void CompareTabs(const TabGroup& group, const QTabWidget& shown, Comparison& com
 }
 
 // The middle column holds captions, the others texts of the file and whole sentences.
-void CompareReport(const ReportList& list, const QAbstractItemModel& shown,
-                   Comparison& comparison) {
+void CompareReport(const ReportList& list, const QAbstractItemModel& shown, Comparison& comparison) {
   const auto rows = static_cast<int>(list.Rows().size());
   comparison.Add("number of rows", shown.rowCount(), rows);
   for (int column = 0; column < shown.columnCount(); ++column) {
@@ -131,8 +129,7 @@ void ComparePicture(const Picture& picture, QWidget& widget, Comparison& compari
   const QRegion painted(QBitmap::fromImage(Painted(widget).createAlphaMask()));
   const QRectF place(picture.Left(), picture.Top(), picture.Width(), picture.Height());
   comparison.Add("picture", !painted.isEmpty(), !place.isEmpty());
-  comparison.Add("picture outside its place", !painted.subtracted(place.toAlignedRect()).isEmpty(),
-                 false);
+  comparison.Add("picture outside its place", !painted.subtracted(place.toAlignedRect()).isEmpty(), false);
 }
 
 void CompareSwatch(const Swatch& swatch, QWidget& widget, Comparison& comparison) {
@@ -186,9 +183,7 @@ QString AsWritten(const std::string& bytes) {
   return text;
 }
 
-QString AsRead(const std::string& caption) {
-  return AsRead(AsWritten(caption).replace("\r\n", "\n"));
-}
+QString AsRead(const std::string& caption) { return AsRead(AsWritten(caption).replace("\r\n", "\n")); }
 
 QString AsRead(QString widgetsCaption) {
   static const QRegularExpression kMarked("&(.)", QRegularExpression::DotMatchesEverythingOption);

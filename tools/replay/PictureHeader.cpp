@@ -9,9 +9,7 @@ namespace {
 
 using Size = std::optional<PictureSize>;
 
-std::uint32_t ByteAt(std::string_view file, std::size_t at) {
-  return static_cast<unsigned char>(file[at]);
-}
+std::uint32_t ByteAt(std::string_view file, std::size_t at) { return static_cast<unsigned char>(file[at]); }
 
 std::uint32_t LittleEndian(std::string_view file, std::size_t at, std::size_t bytes) {
   std::uint32_t value = 0;
@@ -128,9 +126,7 @@ constexpr std::uint32_t kEndOfImage = 0xD9;
 // Baseline, extended and progressive frames; the others hardly any reader takes.
 bool IsFrame(std::uint32_t marker) { return marker >= 0xC0 && marker <= 0xC2; }
 
-bool StandsAlone(std::uint32_t marker) {
-  return marker == 0x01 || (marker >= 0xD0 && marker <= 0xD8);
-}
+bool StandsAlone(std::uint32_t marker) { return marker == 0x01 || (marker >= 0xD0 && marker <= 0xD8); }
 
 // Length, precision, height, width and number of components, then three bytes a component.
 Size SizeOfFrame(std::string_view segment) {

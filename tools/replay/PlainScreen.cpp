@@ -6,8 +6,7 @@
 
 namespace wheelwright::replay {
 
-PlainScreen::PlainScreen(std::ostream& result)
-    : stage(result, SizeInPictureFile), hands(stage.edge) {}
+PlainScreen::PlainScreen(std::ostream& result) : stage(result, SizeInPictureFile), hands(stage.edge) {}
 
 std::optional<PictureSize> SizeInPictureFile(const std::string& path) {
   try {

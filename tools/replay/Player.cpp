@@ -88,8 +88,7 @@ void Player::Act(const Verb<Actions>& action, const ScriptLine& line) {
 
 void Player::FinishEvent() {
   stage_.edge.RethrowKept();
-  if (stage_.desktop.EndWasAsked() && !stage_.edge.HasFailed())
-    stage_.lines.Print({{"end", "quit"}});
+  if (stage_.desktop.EndWasAsked() && !stage_.edge.HasFailed()) stage_.lines.Print({{"end", "quit"}});
 }
 
 }  // namespace wheelwright::replay

@@ -47,9 +47,7 @@ void Questions::Tell(const Control& control) {
   throw ScriptError(ScriptName(control) + " on screen: " + difference, ExitCode::ScreenDiffers);
 }
 
-void Questions::TellVars(const ScriptLine& /*line*/) {
-  stage_.lines.Print(ReplyAbout(stage_.session.vars));
-}
+void Questions::TellVars(const ScriptLine& /*line*/) { stage_.lines.Print(ReplyAbout(stage_.session.vars)); }
 
 void Questions::TellTable(const ScriptLine& line) {
   const std::string table = line.Text("table");
@@ -62,8 +60,7 @@ void Questions::TellLang(const ScriptLine& line) {
     throw ScriptError("there is no language entry " + std::to_string(entry));
   }
   stage_.lines.Print(
-      {{"lang", entry},
-       {"text", ToUnicode(stage_.session.vars.Lang.at(static_cast<std::size_t>(entry)))}});
+      {{"lang", entry}, {"text", ToUnicode(stage_.session.vars.Lang.at(static_cast<std::size_t>(entry)))}});
 }
 
 void Questions::TellPointer(const ScriptLine& /*line*/) {

@@ -8,9 +8,7 @@ void ReplayDesktop::ShowInformation(const std::string& text) {
   lines_.Print({{"box", "information"}, {"text", text}});
 }
 
-void ReplayDesktop::ShowError(const std::string& text) {
-  lines_.Print({{"box", "error"}, {"text", text}});
-}
+void ReplayDesktop::ShowError(const std::string& text) { lines_.Print({{"box", "error"}, {"text", text}}); }
 
 bool ReplayDesktop::AskQuestion(const std::string& text) { return Ask("question", text); }
 
@@ -48,12 +46,8 @@ void ReplayDesktop::SetPointer(Pointer pointer) {
 
 void ReplayDesktop::OpenWithShell(const std::string& file) { lines_.Print({{"shell", file}}); }
 
-std::optional<PictureSize> ReplayDesktop::SizeOfPicture(const std::string& file) {
-  return sizer_(file);
-}
+std::optional<PictureSize> ReplayDesktop::SizeOfPicture(const std::string& file) { return sizer_(file); }
 
-const char* NameOf(Pointer pointer) {
-  return pointer == Pointer::Hourglass ? "hourglass" : "normal";
-}
+const char* NameOf(Pointer pointer) { return pointer == Pointer::Hourglass ? "hourglass" : "normal"; }
 
 }  // namespace wheelwright::replay

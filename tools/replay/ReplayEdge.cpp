@@ -10,9 +10,8 @@ void ReplayEdge::RethrowKept() {
 
 void ReplayEdge::EndByFailure(const Failure& failure) {
   hasFailed_ = true;
-  lines_.Print({{"end", "failure"},
-                {"number", static_cast<int>(failure.Number())},
-                {"text", failure.Description()}});
+  lines_.Print(
+      {{"end", "failure"}, {"number", static_cast<int>(failure.Number())}, {"text", failure.Description()}});
 }
 
 }  // namespace wheelwright::replay

@@ -20,9 +20,7 @@ Json UnicodeList(const Texts& texts) {
 
 void AddParts(Json& reply, const TextBox& box) { reply["text"] = ToUnicode(box.Text()); }
 
-void AddParts(Json& reply, const Captioned& control) {
-  reply["caption"] = ToUnicode(control.Caption());
-}
+void AddParts(Json& reply, const Captioned& control) { reply["caption"] = ToUnicode(control.Caption()); }
 
 void AddParts(Json& reply, const CheckBox& box) {
   reply["caption"] = ToUnicode(box.Caption());
@@ -87,8 +85,8 @@ void AddPartsOfKind(Json& reply, const Control& control) {
 
 Json ReplyAbout(const Control& control) {
   Json reply{{"get", ScriptName(control)}};
-  AddPartsOfKind<TextBox, CheckBox, Captioned, MarkList, RowList, ScrollBar, TabGroup, Picture,
-                 Swatch, ReportList>(reply, control);
+  AddPartsOfKind<TextBox, CheckBox, Captioned, MarkList, RowList, ScrollBar, TabGroup, Picture, Swatch,
+                 ReportList>(reply, control);
   reply["enabled"] = control.IsEnabledHere();
   reply["visible"] = control.IsVisibleHere();
   return reply;

@@ -13,8 +13,7 @@ namespace {
 bool IsWhole(const Json& value, std::int64_t lowest) {
   if (!value.is_number_integer()) return false;
   constexpr std::int64_t kHighest = std::numeric_limits<int>::max();
-  if (value.is_number_unsigned() && value.get<std::uint64_t>() > std::uint64_t{kHighest})
-    return false;
+  if (value.is_number_unsigned() && value.get<std::uint64_t>() > std::uint64_t{kHighest}) return false;
   return value.get<std::int64_t>() >= lowest && value.get<std::int64_t>() <= kHighest;
 }
 
@@ -47,8 +46,7 @@ bool Fits(const Json& value, Form form) {
     case Form::Rows:
       return value.is_array() && std::all_of(value.begin(), value.end(), IsAnyWhole);
     case Form::ThreeTexts:
-      return value.is_array() && value.size() == 3 &&
-             std::all_of(value.begin(), value.end(), IsText);
+      return value.is_array() && value.size() == 3 && std::all_of(value.begin(), value.end(), IsText);
     case Form::Answer:
       return IsAnswer(value);
   }

@@ -10,8 +10,7 @@ namespace {
 
 void SendMouse(QWidget& widget, QEvent::Type type, QPoint place, Qt::MouseButtons held,
                Qt::KeyboardModifiers modifiers) {
-  QMouseEvent event(type, place, widget.mapToGlobal(QPointF(place)), Qt::LeftButton, held,
-                    modifiers);
+  QMouseEvent event(type, place, widget.mapToGlobal(QPointF(place)), Qt::LeftButton, held, modifiers);
   QCoreApplication::sendEvent(&widget, &event);
 }
 

@@ -16,7 +16,6 @@ void SendKey(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt:
 void SendCharacter(QWidget& widget, char32_t character);
 
 // A click on a row, which is brought into sight first.
-void SendRowClick(QAbstractItemView& view, int row,
-                  Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+void SendRowClick(QAbstractItemView& view, int row, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
 }  // namespace wheelwright::replay

@@ -7,10 +7,7 @@
 namespace wheelwright::replay {
 
 Stage::Stage(std::ostream& result, ReplayDesktop::PictureSizer sizer)
-    : lines(result),
-      desktop(lines, std::move(sizer)),
-      edge(lines),
-      session(desktop, settings, files) {
+    : lines(result), desktop(lines, std::move(sizer)), edge(lines), session(desktop, settings, files) {
   WireEvents(session);
 }
 

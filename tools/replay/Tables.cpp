@@ -33,9 +33,7 @@ Json FieldsOf(const ColorEntry& color) {
 }
 
 Json FieldsOf(const CarColorEntry& entry) {
-  return {{"ModelName", ToUnicode(entry.ModelName)},
-          {"Color1", entry.Color1},
-          {"Color2", entry.Color2}};
+  return {{"ModelName", ToUnicode(entry.ModelName)}, {"Color1", entry.Color1}, {"Color2", entry.Color2}};
 }
 
 template <class Record>

@@ -5,8 +5,7 @@ namespace {
 
 std::string WithPlaceholder(std::string text, const std::string& path) {
   const std::string placeholder = "@DIR@";
-  for (auto at = text.find(path); at != std::string::npos;
-       at = text.find(path, at + placeholder.size())) {
+  for (auto at = text.find(path); at != std::string::npos; at = text.find(path, at + placeholder.size())) {
     text.replace(at, path.size(), placeholder);
   }
   return text;
@@ -14,8 +13,7 @@ std::string WithPlaceholder(std::string text, const std::string& path) {
 
 }  // namespace
 
-std::string WriteFinding(const std::string& directory, const Recording& recording,
-                         const Folder& folder) {
+std::string WriteFinding(const std::string& directory, const Recording& recording, const Folder& folder) {
   std::string script;
   for (const std::string& line : recording.script) script += line + "\n";
   Files files;

@@ -44,8 +44,7 @@ Files Folder::Contents() const {
   const DiskFiles disk;
   Files files;
   for (const auto& entry : fs::recursive_directory_iterator(path_)) {
-    if (!entry.is_directory())
-      files[NameOf(entry.path().string())] = disk.Read(entry.path().string());
+    if (!entry.is_directory()) files[NameOf(entry.path().string())] = disk.Read(entry.path().string());
   }
   return files;
 }

@@ -13,8 +13,8 @@ namespace {
 
 using Names = std::set<std::string>;
 
-const Names kReachingTheDisk = {
-    "cmdOpen", "cmdSave", "cmdSaveAs", "cmdBackup", "frmExport.cmdExport", "frmExport.Spez"};
+const Names kReachingTheDisk = {"cmdOpen",       "cmdSave", "cmdSaveAs", "cmdBackup", "frmExport.cmdExport",
+                                "frmExport.Spez"};
 
 const Names kNeverEndingByFailure = {"cmdOpen",
                                      "cmdSaveAs",
@@ -92,16 +92,14 @@ bool WorksOnShownRecord(Session& session, const Step& step, const Shown& shown) 
 
 void CheckEnd(Session& session, const Step& step, const StepResult& result, const Shown& shown) {
   if (result.End() == "quit") {
-    Require(step.control == "cmdEnde" || step.control == "frmMain",
-            "the program has ended unasked");
+    Require(step.control == "cmdEnde" || step.control == "frmMain", "the program has ended unasked");
   } else {
     Require(!kNeverEndingByFailure.contains(step.control), "a failure has left a guarded handler");
     Require(!WorksOnShownRecord(session, step, shown), "a failure has left an edit");
   }
 }
 
-void CheckNothingHappened(const SessionState& before, const SessionState& after,
-                          const std::string& what) {
+void CheckNothingHappened(const SessionState& before, const SessionState& after, const std::string& what) {
   Require(after.working == before.working, what + " has changed the tables");
   Require(after.snapshot == before.snapshot, what + " has changed the snapshots");
   Require(after.isSaved == before.isSaved, what + " has changed IsSaved");
@@ -117,8 +115,7 @@ void CheckWhatMayChange(const Step& step, const StepResult& result, const Sessio
     Require(after.snapshot == before.snapshot, "the snapshots have changed");
     Require(before.isSaved || !after.isSaved, "IsSaved has become true");
   }
-  if (!opens && step.control != "cmdSaveAs")
-    Require(after.file == before.file, "CurrentFile has changed");
+  if (!opens && step.control != "cmdSaveAs") Require(after.file == before.file, "CurrentFile has changed");
   if (kEditingNothing.contains(step.control))
     Require(after.working == before.working, "the tables have changed");
   if (kEditingNothing.contains(step.control) && !saves)
@@ -143,8 +140,7 @@ void CheckCommand(const Moment& moment, const ExpectedHandling* handling) {
   if (step.Clicks("cmdNewCar") && isWell) CheckAddedVehicle(moment);
   if (step.Clicks("cmdDeleteCar") && isWell) CheckDeletedVehicle(moment);
   if (step.Clicks("cmdImportCar")) CheckImport(moment);
-  if (step.Clicks("frmExport.cmdExport") && isWell && !moment.before.exported.empty())
-    CheckExport(moment);
+  if (step.Clicks("frmExport.cmdExport") && isWell && !moment.before.exported.empty()) CheckExport(moment);
   const bool displays = step.control == "cmbAutos" || step.control == "cmbSprache";
   if (displays && !moment.before.vehicles.empty()) CheckDisplay(moment, moment.before.working);
 }

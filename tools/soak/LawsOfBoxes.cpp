@@ -50,8 +50,7 @@ void CheckDefinition(const FrmMain& main, const IdeEntry& entry) {
     CheckField(main, kDefinitionFields[i], entry);
   }
   if (entry.Typ == "car") Require(main.txtExtra2.Text() == entry.Extra2, "txtExtra2 isn't Extra2");
-  if (entry.Typ == "plane")
-    Require(main.txtExtra1.Text() == entry.Extra1, "txtExtra1 isn't Extra1");
+  if (entry.Typ == "plane") Require(main.txtExtra1.Text() == entry.Extra1, "txtExtra1 isn't Extra1");
 }
 
 void CheckPalette(const FrmMain& main, const std::vector<ColorEntry>& colors) {

@@ -22,14 +22,12 @@ void CheckImport(const Moment& moment) {
   }
   const auto plain = testing::ImportPlainly(file->second, before.vehicles, before.working.cars);
   Require(after.vehicles == plain.rows, "an import has listed other names");
-  Require(after.working.cars.size() == plain.cars.size(),
-          "an import has made another count of records");
+  Require(after.working.cars.size() == plain.cars.size(), "an import has made another count of records");
   if (moment.result.ShowedError()) return;
   Require(moment.result.ShowedInformation(), "an import says nothing");
   Require(!after.isSaved, "IsSaved after an import");
   Require(moment.session.main.cmbAutos.Row() == 0, "an import doesn't choose the first row");
-  Require(AsDisplayed(after.working.cars) == AsDisplayed(plain.cars),
-          "an import has made other records");
+  Require(AsDisplayed(after.working.cars) == AsDisplayed(plain.cars), "an import has made other records");
 }
 
 void CheckExport(const Moment& moment) {

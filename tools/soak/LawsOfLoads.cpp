@@ -27,8 +27,8 @@ void CheckReset(const Moment& moment) {
   Require(moment.after.vehicles.empty(), "a failed load leaves vehicles in the list");
   const bool isOff = !main.cmdSave.IsEnabled() && !main.cmdSaveAs.IsEnabled() &&
                      !main.cmdBackup.IsEnabled() && !main.cmdUndo.IsEnabled() &&
-                     !main.FrameAutos.IsEnabled() && !main.SSTab1.IsEnabled() &&
-                     !main.SSTab2.IsEnabled() && !main.SSTab3.IsEnabled();
+                     !main.FrameAutos.IsEnabled() && !main.SSTab1.IsEnabled() && !main.SSTab2.IsEnabled() &&
+                     !main.SSTab3.IsEnabled();
   Require(isOff, "a failed load leaves commands or tabs enabled");
   Require(moment.result.ShowedError(), "a failed load says nothing");
 }
@@ -37,12 +37,10 @@ void CheckReady(const Moment& moment, const FileKind& kind, std::vector<std::str
   const FrmMain& main = moment.session.main;
   Require(moment.after.isSaved, "a load leaves IsSaved false");
   Require(moment.after.fileType == kind.type, "a load leaves another CurrentFileType");
-  Require(moment.after.vehicles == SortedAsInLists(std::move(keys)),
-          "cmbAutos isn't the file's keys");
+  Require(moment.after.vehicles == SortedAsInLists(std::move(keys)), "cmbAutos isn't the file's keys");
   Require(main.cmbAutos.Row() == 0, "a load doesn't show the first vehicle");
-  const bool isOn = main.cmdSave.IsEnabled() && main.cmdSaveAs.IsEnabled() &&
-                    main.cmdBackup.IsEnabled() && main.cmdUndo.IsEnabled() &&
-                    main.FrameAutos.IsEnabled() && (main.*kind.tabs).IsEnabled();
+  const bool isOn = main.cmdSave.IsEnabled() && main.cmdSaveAs.IsEnabled() && main.cmdBackup.IsEnabled() &&
+                    main.cmdUndo.IsEnabled() && main.FrameAutos.IsEnabled() && (main.*kind.tabs).IsEnabled();
   Require(isOn, "a load leaves commands or tabs disabled");
 }
 
@@ -54,8 +52,7 @@ void CheckHandling(const Moment& moment, const FileKind& kind, const ExpectedHan
   if (HasPlainMessages(moment.session.vars))
     Require(moment.session.error.lstErrors.Rows() == expected.rows, "the load problems are others");
   const bool hasProblems = read.hasOddNames || !expected.rows.empty();
-  Require(moment.session.error.IsVisible() || !hasProblems,
-          "load problems don't show their window");
+  Require(moment.session.error.IsVisible() || !hasProblems, "load problems don't show their window");
   if (read.failure != 0 || read.names.empty()) return CheckReset(moment);
   CheckReady(moment, kind, read.names);
   Tables tables = moment.before.working;
@@ -73,17 +70,14 @@ void CheckDefinitions(const Moment& moment, const FileKind& kind, const PlainDef
 }
 
 void CheckColors(const Moment& moment, const FileKind& kind, const PlainColors& read) {
-  Require(moment.after.snapshot.colors == read.colors,
-          "Kopie_Colors isn't what stands in the file");
+  Require(moment.after.snapshot.colors == read.colors, "Kopie_Colors isn't what stands in the file");
   if (read.firstPassEnded) {
     Require(moment.after.snapshot.carColors == read.carColors,
             "Kopie_CarColors isn't what stands in the file");
   }
-  Require(moment.session.main.lstColors.Rows() == read.labels,
-          "lstColors isn't the file's palette");
+  Require(moment.session.main.lstColors.Rows() == read.labels, "lstColors isn't the file's palette");
   const bool hasRows = moment.session.main.cmbColor1.Count() > 0;
-  if (read.failure != 0 || read.damagedLine != 0 || read.keys.empty() || !hasRows)
-    return CheckReset(moment);
+  if (read.failure != 0 || read.damagedLine != 0 || read.keys.empty() || !hasRows) return CheckReset(moment);
   CheckReady(moment, kind, read.keys);
   Tables expected = moment.before.working;
   expected.colors = read.colors;
@@ -94,8 +88,7 @@ void CheckColors(const Moment& moment, const FileKind& kind, const PlainColors& 
 }  // namespace
 
 void CheckOpen(const Moment& moment, const ExpectedHandling* handling) {
-  if (moment.step.answers.empty() || !moment.step.answers.back().is_object())
-    return CheckReset(moment);
+  if (moment.step.answers.empty() || !moment.step.answers.back().is_object()) return CheckReset(moment);
   const Json& answer = moment.step.answers.back();
   const std::string file = moment.step.File();
   Require(moment.after.file == file || moment.after.file.empty(), "CurrentFile is another file");

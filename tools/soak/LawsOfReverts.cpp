@@ -8,8 +8,7 @@ namespace wheelwright::soak {
 namespace {
 
 template <class Record>
-std::size_t FirstNamed(const std::vector<Record>& records, FieldText Record::*key,
-                       const std::string& text) {
+std::size_t FirstNamed(const std::vector<Record>& records, FieldText Record::*key, const std::string& text) {
   const auto named = [&](const Record& record) { return record.*key == text; };
   const auto found = std::find_if(records.begin(), records.end(), named);
   return found == records.end() ? 0 : static_cast<std::size_t>(found - records.begin());
@@ -56,8 +55,7 @@ void CheckDisplay(const Moment& moment, Tables expected) {
     Require(vars.CurrentIde == static_cast<int>(index), "CurrentIde isn't the chosen vehicle");
   } else {
     const std::vector<std::string> rows = DisplayPairs(expected, key);
-    Require(moment.session.main.lstCarColors.Rows() == rows,
-            "lstCarColors isn't the vehicle's pairs");
+    Require(moment.session.main.lstCarColors.Rows() == rows, "lstCarColors isn't the vehicle's pairs");
   }
   Require(moment.after.working == expected, "a display has changed the tables");
 }
@@ -82,8 +80,7 @@ void CheckAddedVehicle(const Moment& moment) {
   const std::vector<Car>& cars = moment.after.working.cars;
   const std::size_t count = moment.before.working.cars.size() + 1;
   Require(cars.size() == count, "a new vehicle isn't one more record");
-  Require(cars.back().CarName == "NEWCAR" + std::to_string(count),
-          "a new vehicle has another name");
+  Require(cars.back().CarName == "NEWCAR" + std::to_string(count), "a new vehicle has another name");
   Require(moment.after.vehicles.size() == moment.before.vehicles.size() + 1,
           "a new vehicle isn't one more row");
   Require(!moment.after.isSaved, "IsSaved after a new vehicle");

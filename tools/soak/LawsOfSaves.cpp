@@ -19,9 +19,9 @@ Files ExpectedDisk(const Moment& moment, const std::string& template_, const std
   const Tables& tables = before.working;
   Files disk = before.disk;
   if (before.fileType == kHandlingFile) {
-    disk[target] = testing::WritePlainly(disk[template_], {before.vehicles, tables.cars,
-                                                           before.author, before.date}) +
-                   kLineEnd;
+    disk[target] =
+        testing::WritePlainly(disk[template_], {before.vehicles, tables.cars, before.author, before.date}) +
+        kLineEnd;
   } else if (before.fileType == kDefinitionFile) {
     disk[target] = testing::WriteDefinitionsPlainly(disk[template_], tables.ides) + kLineEnd;
   } else {

@@ -34,8 +34,8 @@ std::vector<std::string> NamesInData(const Folder& folder) {
 }
 
 std::string NewName(testing::Dice& dice) {
-  return dice.OneOf({"data/new.cfg", "data/new.ide", "data/new.dat", "data/missing.cfg",
-                     "data/none/x.cfg", "data/folder.cfg", "data/\u00E4 &.cfg"});
+  return dice.OneOf({"data/new.cfg", "data/new.ide", "data/new.dat", "data/missing.cfg", "data/none/x.cfg",
+                     "data/folder.cfg", "data/\u00E4 &.cfg"});
 }
 
 int FilterFor(testing::Dice& dice, const std::string& name) {

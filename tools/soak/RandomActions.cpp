@@ -10,11 +10,10 @@ namespace wheelwright::soak {
 namespace {
 
 constexpr std::array<const char*, 44> kPieces = {
-    "1500.0", "-0.5",   "0",      "1,5", "2e-3", " ",     "  ",      ",",      ";",
-    "#",      "%",      "!",      "$",   "-",    "\t",    "&",       "&&",     "\"",
-    "'",      "\\",     "\\n",    "/",   "<b>",  "ä",     "Ü",       "ß",      "€",
-    "Ž",      "ž",      "ÿ",      "Ÿ",   "→",    "😀",     "e\u0301", "אב",     "\u00A0",
-    "\u00AD", "\u200B", "NEWCAR", "BUS", "car",  "plane", "end",     "0000a00"};
+    "1500.0",  "-0.5", "0",      "1,5",    "2e-3",   " ",      "  ",  ",",   ";",     "#",   "%",
+    "!",       "$",    "-",      "\t",     "&",      "&&",     "\"",  "'",   "\\",    "\\n", "/",
+    "<b>",     "ä",    "Ü",      "ß",      "€",      "Ž",      "ž",   "ÿ",   "Ÿ",     "→",   "😀",
+    "e\u0301", "אב",   "\u00A0", "\u00AD", "\u200B", "NEWCAR", "BUS", "car", "plane", "end", "0000a00"};
 
 // What is typed into a box, UTF-8: numbers, words, marks of the file formats, letters of many
 // kinds.
@@ -35,8 +34,7 @@ Step StepAt(const Control& control, const std::string& verb, bool isForced) {
 }
 
 bool OffersNothing(const Control& control) {
-  return dynamic_cast<const Label*>(&control) != nullptr ||
-         dynamic_cast<const Frame*>(&control) != nullptr ||
+  return dynamic_cast<const Label*>(&control) != nullptr || dynamic_cast<const Frame*>(&control) != nullptr ||
          dynamic_cast<const Picture*>(&control) != nullptr ||
          dynamic_cast<const Swatch*>(&control) != nullptr ||
          dynamic_cast<const ReportList*>(&control) != nullptr;
@@ -68,8 +66,8 @@ Step Edit(testing::Dice& dice, const TextBox& box, bool isForced) {
   }
 }
 
-std::optional<Step> ChooseRow(testing::Dice& dice, const RowList& list, const char* verb,
-                              const char* part, bool isForced) {
+std::optional<Step> ChooseRow(testing::Dice& dice, const RowList& list, const char* verb, const char* part,
+                              bool isForced) {
   if (list.Count() == 0) return std::nullopt;
   Step step = StepAt(list, verb, isForced);
   step.action[part] = dice.Below(list.Count());
@@ -109,8 +107,7 @@ std::vector<Control*> ControlsOnTabs(Session& session) {
   const Control* group = groups.at(static_cast<std::size_t>(session.vars.CurrentFileType));
   std::vector<Control*> controls;
   for (Control* control : session.main.Controls()) {
-    if (!OffersNothing(*control) && &OutermostAround(*control) == group)
-      controls.push_back(control);
+    if (!OffersNothing(*control) && &OutermostAround(*control) == group) controls.push_back(control);
   }
   return controls;
 }
@@ -123,13 +120,10 @@ std::optional<Step> RandomAction(testing::Dice& dice, Control& control, bool isF
   if (dynamic_cast<ScrollBar*>(&control) != nullptr)
     return With(StepAt(control, "scroll", isForced), "value", dice.Between(-2, 300));
   if (auto* list = dynamic_cast<MarkList*>(&control)) return Mark(dice, *list, isForced);
-  if (auto* list = dynamic_cast<PickList*>(&control))
-    return ChooseRow(dice, *list, "pick", "row", isForced);
-  if (auto* list = dynamic_cast<ListBox*>(&control))
-    return ChooseRow(dice, *list, "row", "to", isForced);
+  if (auto* list = dynamic_cast<PickList*>(&control)) return ChooseRow(dice, *list, "pick", "row", isForced);
+  if (auto* list = dynamic_cast<ListBox*>(&control)) return ChooseRow(dice, *list, "row", "to", isForced);
   if (auto* group = dynamic_cast<TabGroup*>(&control))
-    return With(StepAt(control, "tab", isForced), "to",
-                dice.Below(static_cast<int>(group->Tabs().size())));
+    return With(StepAt(control, "tab", isForced), "to", dice.Below(static_cast<int>(group->Tabs().size())));
   return std::nullopt;
 }
 

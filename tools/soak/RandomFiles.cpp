@@ -18,9 +18,8 @@ std::string Bitmap(int width, int height) {
     return std::string{byte(value, 0), byte(value, 1), byte(value, 2), byte(value, 3)};
   };
   return "BM" + number(54 + stride * height) + number(0) + number(54) + number(40) + number(width) +
-         number(height) + "\x01\0\x18\0"s + number(0) + number(stride * height) + number(0) +
-         number(0) + number(0) + number(0) +
-         std::string(static_cast<std::size_t>(stride * height), '\x40');
+         number(height) + "\x01\0\x18\0"s + number(0) + number(stride * height) + number(0) + number(0) +
+         number(0) + number(0) + std::string(static_cast<std::size_t>(stride * height), '\x40');
 }
 
 // A picture, or what only claims to be one.

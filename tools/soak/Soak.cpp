@@ -37,9 +37,8 @@ bool Soak(const Options& options, const SecondPlay& again, std::ostream& report)
     }
     ++seed;
   } while (Clock::now() < end && findings < kMostFindings);
-  report << seed - options.seed
-         << (again ? " sessions through real widgets, " : " plain sessions, ") << actions
-         << " lines, seeds " << options.seed << " to " << seed - 1 << ", " << findings
+  report << seed - options.seed << (again ? " sessions through real widgets, " : " plain sessions, ")
+         << actions << " lines, seeds " << options.seed << " to " << seed - 1 << ", " << findings
          << " findings" << std::endl;
   return findings == 0;
 }

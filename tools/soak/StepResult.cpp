@@ -22,9 +22,7 @@ bool StepResult::WasDeclined() const {
   return std::any_of(lines_.begin(), lines_.end(), declined);
 }
 
-bool StepResult::WasRefused() const {
-  return !lines_.empty() && lines_.front().contains("refused");
-}
+bool StepResult::WasRefused() const { return !lines_.empty() && lines_.front().contains("refused"); }
 
 std::string StepResult::End() const {
   const bool hasEnded = !lines_.empty() && lines_.back().contains("end");

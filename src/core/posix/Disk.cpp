@@ -15,9 +15,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-fs::path DiskPath(const std::string& path) {
-  return fs::path(std::u8string(path.begin(), path.end()));
-}
+fs::path DiskPath(const std::string& path) { return fs::path(std::u8string(path.begin(), path.end())); }
 
 std::string PathText(const fs::path& path) {
   const std::u8string text = path.u8string();
@@ -72,9 +70,7 @@ std::string DiskFiles::Read(const std::string& path) const {
   return ReadAll(OpenRegularFile(path, Purpose::Reading, O_RDONLY));
 }
 
-void DiskFiles::Write(const std::string& path, std::string_view text) {
-  WholeFile(path).Write(text);
-}
+void DiskFiles::Write(const std::string& path, std::string_view text) { WholeFile(path).Write(text); }
 
 void DiskFiles::CheckRoom(const std::string& path, std::string_view text) {
   try {

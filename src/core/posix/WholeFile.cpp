@@ -81,8 +81,7 @@ mode_t RightsFrom(const struct stat& model, gid_t group) {
 Failure FailureOf(int error, Purpose purpose) {
   switch (error) {
     case ENOENT:
-      return Failure(purpose == Purpose::Reading ? FailureNumber::FileNotFound
-                                                 : FailureNumber::PathNotFound);
+      return Failure(purpose == Purpose::Reading ? FailureNumber::FileNotFound : FailureNumber::PathNotFound);
     case ENOTDIR:
     case ENAMETOOLONG:
       return Failure(FailureNumber::PathNotFound);
@@ -202,8 +201,7 @@ void WholeFile::WriteAt(std::string_view text, off_t position) {
 // be waited for, and some kinds of disk know no waiting for folders.
 void WholeFile::WaitForFolder() const {
   const std::string folder = std::filesystem::path(newPath_).parent_path().string();
-  const Descriptor opened(
-      open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  const Descriptor opened(open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (!opened.IsOpen() && errno == EACCES) return;
   if (!opened.IsOpen()) throw FailureOf(errno, Purpose::Writing);
   if (fsync(opened.Number()) != 0 && errno != EINVAL) throw FailureOf(errno, Purpose::Writing);

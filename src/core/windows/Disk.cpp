@@ -19,8 +19,8 @@ DWORD AttributesOf(const std::wstring& path) {
   if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) {
     return attributes;
   }
-  const Handle file = OpenAnything(path, FILE_READ_ATTRIBUTES, kShareAll, OPEN_EXISTING,
-                                   FILE_FLAG_BACKUP_SEMANTICS);
+  const Handle file =
+      OpenAnything(path, FILE_READ_ATTRIBUTES, kShareAll, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS);
   BY_HANDLE_FILE_INFORMATION information{};
   if (!file || GetFileInformationByHandle(file.get(), &information) == FALSE) {
     return INVALID_FILE_ATTRIBUTES;
@@ -44,8 +44,7 @@ std::vector<char> RightsOf(const std::wstring& path) {
   DWORD size = 0;
   GetFileSecurityW(path.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
   std::vector<char> rights(size);
-  if (GetFileSecurityW(path.c_str(), DACL_SECURITY_INFORMATION, rights.data(), size, &size) ==
-      FALSE) {
+  if (GetFileSecurityW(path.c_str(), DACL_SECURITY_INFORMATION, rights.data(), size, &size) == FALSE) {
     rights.clear();
   }
   return rights;
@@ -72,9 +71,7 @@ struct CloseSearch {
 // Windows has no signals of that kind.
 void LetWritesFail() {}
 
-bool DiskFiles::Exists(const std::string& path) const {
-  return IsFile(AttributesOf(DiskPath(path)));
-}
+bool DiskFiles::Exists(const std::string& path) const { return IsFile(AttributesOf(DiskPath(path))); }
 
 std::string DiskFiles::Read(const std::string& path) const {
   const Handle file = OpenAnything(DiskPath(path), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,

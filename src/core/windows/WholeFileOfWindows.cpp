@@ -57,8 +57,8 @@ BOOL MoveTo(HANDLE file, std::size_t position) {
 }  // namespace
 
 Failure FailureOfReading(unsigned long windowsError) {
-  const auto* const row = std::find_if(kRows.begin(), kRows.end(),
-                                       [&](const Row& each) { return each.error == windowsError; });
+  const auto* const row =
+      std::find_if(kRows.begin(), kRows.end(), [&](const Row& each) { return each.error == windowsError; });
   return Failure(row == kRows.end() ? FailureNumber::DeviceIoError : row->number);
 }
 

@@ -11,9 +11,7 @@ namespace {
 constexpr char32_t kStandIns = 0xF0000;
 constexpr std::size_t kLongestCharacter = 4;
 
-bool IsStandIn(char32_t character) {
-  return character >= kStandIns + 0x80 && character <= kStandIns + 0xFF;
-}
+bool IsStandIn(char32_t character) { return character >= kStandIns + 0x80 && character <= kStandIns + 0xFF; }
 
 wchar_t LowerCaseOf(wchar_t letter) {
   wchar_t lower = letter;
@@ -33,9 +31,9 @@ WindowsCodePage::WindowsCodePage(unsigned number) : number_(number) {
 // The one character that the bytes stand for, if it has no other bytes.
 std::optional<char32_t> WindowsCodePage::CharacterOf(std::string_view bytes) const {
   std::array<wchar_t, kLongestCharacter> wide{};
-  const int count = MultiByteToWideChar(number_, MB_ERR_INVALID_CHARS, bytes.data(),
-                                        static_cast<int>(bytes.size()), wide.data(),
-                                        static_cast<int>(wide.size()));
+  const int count =
+      MultiByteToWideChar(number_, MB_ERR_INVALID_CHARS, bytes.data(), static_cast<int>(bytes.size()),
+                          wide.data(), static_cast<int>(wide.size()));
   if (count < 1) return std::nullopt;
   const std::string utf8 = Utf8Of({wide.data(), static_cast<std::size_t>(count)});
   std::string_view rest = utf8;

@@ -50,9 +50,7 @@ class WindowsDiskTest : public ::testing::Test {
     RemoveDirectoryW((L"\\\\?\\" + folder).c_str());
   }
 
-  static DWORD AttributesOf(const std::string& path) {
-    return GetFileAttributesW(WideOf(path).c_str());
-  }
+  static DWORD AttributesOf(const std::string& path) { return GetFileAttributesW(WideOf(path).c_str()); }
   static void SetAttributes(const std::string& path, DWORD attributes) {
     ASSERT_NE(SetFileAttributesW(WideOf(path).c_str(), attributes), FALSE);
   }
@@ -63,16 +61,14 @@ class WindowsDiskTest : public ::testing::Test {
     DWORD size = 0;
     GetFileSecurityW(WideOf(path).c_str(), what, rights.data(), 4096, &size);
     wchar_t* text = nullptr;
-    ConvertSecurityDescriptorToStringSecurityDescriptorW(rights.data(), SDDL_REVISION_1, what,
-                                                         &text, nullptr);
+    ConvertSecurityDescriptorToStringSecurityDescriptorW(rights.data(), SDDL_REVISION_1, what, &text,
+                                                         nullptr);
     std::wstring written = text == nullptr ? L"" : text;
     LocalFree(text);
     return written;
   }
 
-  static std::wstring RightsOf(const std::string& path) {
-    return Written(path, DACL_SECURITY_INFORMATION);
-  }
+  static std::wstring RightsOf(const std::string& path) { return Written(path, DACL_SECURITY_INFORMATION); }
 
   // Makes folders in the folder until a path in them is longer than 260 characters.
   std::string MakeDeepFolder() const {
@@ -184,8 +180,8 @@ TEST_F(WindowsDiskTest, AttributesStayWhenAFileIsWritten) {
 
 TEST_F(WindowsDiskTest, WhatIsNoFileIsFailure75) {
   const std::string pipe = R"(\\.\pipe\wheelwright-disk-test)";
-  HANDLE server = CreateNamedPipeW(WideOf(pipe).c_str(), PIPE_ACCESS_DUPLEX, PIPE_TYPE_BYTE, 2, 0,
-                                   0, 0, nullptr);
+  HANDLE server =
+      CreateNamedPipeW(WideOf(pipe).c_str(), PIPE_ACCESS_DUPLEX, PIPE_TYPE_BYTE, 2, 0, 0, 0, nullptr);
   ASSERT_NE(server, INVALID_HANDLE_VALUE);
   for (const std::string& path : {pipe, std::string("NUL")}) {
     EXPECT_EQ(WriteFailure(path), kNoAccess) << path;
@@ -216,13 +212,12 @@ TEST_F(WindowsDiskTest, ANewCopyHasTheRightsOfItsModel) {
   files_.Write(In("a.cfg"), "x");
   const std::wstring owner = Written(In("a.cfg"), OWNER_SECURITY_INFORMATION).substr(2);
   PSECURITY_DESCRIPTOR ownerAlone = nullptr;
-  ASSERT_NE(ConvertStringSecurityDescriptorToSecurityDescriptorW(
-                (L"D:P(A;;FA;;;" + owner + L")").c_str(), SDDL_REVISION_1, &ownerAlone, nullptr),
+  ASSERT_NE(ConvertStringSecurityDescriptorToSecurityDescriptorW((L"D:P(A;;FA;;;" + owner + L")").c_str(),
+                                                                 SDDL_REVISION_1, &ownerAlone, nullptr),
             FALSE);
-  ASSERT_NE(
-      SetFileSecurityW(WideOf(In("a.cfg")).c_str(),
-                       DACL_SECURITY_INFORMATION | PROTECTED_DACL_SECURITY_INFORMATION, ownerAlone),
-      FALSE);
+  ASSERT_NE(SetFileSecurityW(WideOf(In("a.cfg")).c_str(),
+                             DACL_SECURITY_INFORMATION | PROTECTED_DACL_SECURITY_INFORMATION, ownerAlone),
+            FALSE);
   LocalFree(ownerAlone);
   files_.Write(In("other.cfg"), "x");
   files_.Copy(In("a.cfg"), In("a.cfg.backup"));

@@ -16,8 +16,7 @@ TEST(WindowsPathTest, AShortPathStaysAsItIs) {
 }
 
 TEST(WindowsPathTest, ALongPathIsFullAndMarked) {
-  EXPECT_EQ(DiskPath("Z:\\games\\" + kLong + "\\a.cfg"),
-            L"\\\\?\\Z:\\games\\" + kLongWide + L"\\a.cfg");
+  EXPECT_EQ(DiskPath("Z:\\games\\" + kLong + "\\a.cfg"), L"\\\\?\\Z:\\games\\" + kLongWide + L"\\a.cfg");
   EXPECT_EQ(DiskPath("Z:/games/other/../" + kLong + "/a.cfg"),
             L"\\\\?\\Z:\\games\\" + kLongWide + L"\\a.cfg");
 }

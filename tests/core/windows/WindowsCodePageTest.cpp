@@ -63,8 +63,8 @@ TEST(WindowsCodePageTest, Utf8IsReadAndWhatIsNoneSurvives) {
 }
 
 TEST(WindowsCodePageTest, EveryPairOfBytesSurvivesInEveryPage) {
-  for (const unsigned number : {kWestern, kCyrillic, kTurkish, kVietnamese, kJapanese, kChinese,
-                                kKorean, kTaiwanese, kUtf8}) {
+  for (const unsigned number :
+       {kWestern, kCyrillic, kTurkish, kVietnamese, kJapanese, kChinese, kKorean, kTaiwanese, kUtf8}) {
     const WindowsCodePage page(number);
     std::string bytes;
     for (int first = 0; first < 256; ++first) {
@@ -87,8 +87,7 @@ TEST(WindowsCodePageTest, CapitalLettersOfThePageFold) {
 TEST(WindowsCodePageTest, HalvesOfCharactersDontFold) {
   const std::array<char, 256> lower = WindowsCodePage(kJapanese).LowerCaseTable();
   EXPECT_EQ(lower['Z'], 'z');
-  for (std::size_t lead = 0x81; lead <= 0x9F; ++lead)
-    EXPECT_EQ(lower[lead], static_cast<char>(lead));
+  for (std::size_t lead = 0x81; lead <= 0x9F; ++lead) EXPECT_EQ(lower[lead], static_cast<char>(lead));
 }
 
 }  // namespace

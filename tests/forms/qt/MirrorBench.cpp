@@ -24,8 +24,7 @@ MirrorBench::MirrorBench() { rows.addWidget(&elsewhere); }
 
 void MirrorBench::Raise(QWidget& widget) {
   for (auto* model : widget.findChildren<QAbstractItemModel*>()) {
-    new QAbstractItemModelTester(model, QAbstractItemModelTester::FailureReportingMode::Fatal,
-                                 model);
+    new QAbstractItemModelTester(model, QAbstractItemModelTester::FailureReportingMode::Fatal, model);
   }
   rows.addWidget(&widget);
   widget.show();

@@ -101,8 +101,7 @@ QWidget* PairAdder(FrmMain& main, QWidget& page, MirrorSet& mirrors) {
   AddPick(main.lblColor1, main.cmbColor1, main.picColor1, *grid, frame, mirrors);
   AddPick(main.lblColor2, main.cmbColor2, main.picColor2, *grid, frame, mirrors);
   const int below = grid->rowCount();
-  grid->addWidget(&mirrors.Add(main.cmdAddColor, &frame).Widget(), below, kInputColumn, 1, 2,
-                  Qt::AlignRight);
+  grid->addWidget(&mirrors.Add(main.cmdAddColor, &frame).Widget(), below, kInputColumn, 1, 2, Qt::AlignRight);
   grid->setRowStretch(below + 1, 1);
   return &frame;
 }

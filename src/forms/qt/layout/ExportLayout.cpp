@@ -19,8 +19,8 @@ constexpr int kBetweenArrows = 7;
 
 enum ExportColumn { kAvailable, kArrows, kChosen };
 
-LabelMirror& AddList(Label& caption, MarkList& list, ExportColumn column, QGridLayout& grid,
-                     QWidget* window, MirrorSet& mirrors) {
+LabelMirror& AddList(Label& caption, MarkList& list, ExportColumn column, QGridLayout& grid, QWidget* window,
+                     MirrorSet& mirrors) {
   LabelMirror& name = mirrors.Add(caption, window);
   QWidget& rows = mirrors.Add(list, window).Widget();
   rows.setMinimumSize(kExportListSize);
@@ -79,8 +79,7 @@ void LayOutExport(FrmExport& exporter, QWidget* window, MirrorSet& mirrors) {
   auto* grid = new QGridLayout;
   grid->setSpacing(kGap);
   grid->setRowMinimumHeight(0, kLabelHeight);
-  LabelMirror& available =
-      AddList(exporter.lblExportCar, exporter.lst1, kAvailable, *grid, window, mirrors);
+  LabelMirror& available = AddList(exporter.lblExportCar, exporter.lst1, kAvailable, *grid, window, mirrors);
   grid->addLayout(Arrows(exporter, window, mirrors), 1, kArrows);
   LabelMirror& chosen = AddList(exporter.lblExport, exporter.lst2, kChosen, *grid, window, mirrors);
   // An arrow alone says little to who doesn't see where it points.

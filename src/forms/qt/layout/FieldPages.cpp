@@ -44,8 +44,8 @@ void PlaceRow(QGridLayout& grid, int row, LabelMirror& label, const std::vector<
 
 // Builds the rows of a tab, from top to bottom: label, input and hint.
 template <class Record, std::size_t Count>
-void BuildRows(FrmMain& main, const std::array<FieldRow<Record>, Count>& fields, int tab,
-               QWidget& page, MirrorSet& mirrors) {
+void BuildRows(FrmMain& main, const std::array<FieldRow<Record>, Count>& fields, int tab, QWidget& page,
+               MirrorSet& mirrors) {
   std::vector<const FieldRow<Record>*> ofTab;
   for (const FieldRow<Record>& field : fields) {
     if (field.tab == tab) ofTab.push_back(&field);
@@ -122,8 +122,7 @@ void BuildPicturePage(QWidget& page, Frame& frame, Picture& picture, MirrorSet& 
 int RowHeight(QWidget& page) { return PickBox(&page).sizeHint().height(); }
 
 void BuildHandlingPages(FrmMain& main, TabGroupMirror& group, MirrorSet& mirrors) {
-  for (const HandlingTab tab :
-       {kGeneralTab, kDimensionsTab, kDriveTab, kBrakesTab, kSuspensionTab}) {
+  for (const HandlingTab tab : {kGeneralTab, kDimensionsTab, kDriveTab, kBrakesTab, kSuspensionTab}) {
     BuildRows(main, kHandlingFields, tab, group.Page(tab), mirrors);
   }
   BuildFlags(main, group.Page(kFlagsTab), mirrors);

@@ -14,8 +14,7 @@ QLayout* LeftColumn(FrmMain& main, QWidget* window, MirrorSet& mirrors) {
   column->addWidget(Framed(main.FrameSprache, main.cmbSprache, *window, mirrors));
   column->addWidget(Framed(main.FrameAutos, main.cmbAutos, *window, mirrors));
   column->addSpacing(column->spacing());
-  for (Button* button :
-       {&main.cmdOpen, &main.cmdSave, &main.cmdSaveAs, &main.cmdUndo, &main.cmdBackup}) {
+  for (Button* button : {&main.cmdOpen, &main.cmdSave, &main.cmdSaveAs, &main.cmdUndo, &main.cmdBackup}) {
     column->addWidget(&mirrors.Add(*button, window).Widget());
   }
   column->addStretch();

@@ -21,8 +21,7 @@ class WindowShell : public QWidget {
     setWindowTitle(ShownTitle(window.Title()));
     window.notice = [this] { Follow(); };
     if (owner == nullptr) return;
-    QObject::connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this,
-                     &QWidget::close);
+    QObject::connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &QWidget::close);
   }
   ~WindowShell() override { window_.notice = nullptr; }
 

@@ -64,8 +64,7 @@ void ListBoxMirror::Follow(Aspect aspect) {
   // The cursor scrolls to its row, which only a new choice shall.
   QScrollBar& bar = *widget_.verticalScrollBar();
   const int place = bar.value();
-  widget_.selectionModel()->setCurrentIndex(model_.index(plain_.Row()),
-                                            QItemSelectionModel::NoUpdate);
+  widget_.selectionModel()->setCurrentIndex(model_.index(plain_.Row()), QItemSelectionModel::NoUpdate);
   if (aspect != Aspect::Choice) bar.setValue(place);
 }
 

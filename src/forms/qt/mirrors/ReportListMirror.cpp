@@ -24,9 +24,7 @@ class ReportModel : public QAbstractTableModel {
  public:
   ReportModel(const ReportList& list, QObject* parent) : QAbstractTableModel(parent), list_(list) {}
 
-  int rowCount(const QModelIndex& parent = {}) const override {
-    return parent.isValid() ? 0 : known_;
-  }
+  int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : known_; }
 
   int columnCount(const QModelIndex& parent = {}) const override {
     return parent.isValid() ? 0 : static_cast<int>(ReportList::kColumns);

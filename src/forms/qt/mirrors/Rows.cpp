@@ -12,18 +12,14 @@ namespace wheelwright {
 namespace {
 
 bool IsChoosingKey(const QKeyEvent& event) {
-  return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter ||
-         event.key() == Qt::Key_Space;
+  return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter || event.key() == Qt::Key_Space;
 }
 
 }  // namespace
 
-RowModel::RowModel(const RowList& list, QObject* parent)
-    : QAbstractListModel(parent), list_(list) {}
+RowModel::RowModel(const RowList& list, QObject* parent) : QAbstractListModel(parent), list_(list) {}
 
-int RowModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : list_.Count();
-}
+int RowModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : list_.Count(); }
 
 QVariant RowModel::data(const QModelIndex& index, int role) const {
   if (index.row() < 0 || index.row() >= list_.Count()) return {};

@@ -35,8 +35,7 @@ void Preset(QFileDialog& shown, const FileDialog& dialog, const QString& directo
   if (dialog.filterIndex >= 1 && dialog.filterIndex <= filters.size()) {
     shown.selectNameFilter(filters[dialog.filterIndex - 1]);
   }
-  shown.setOption(QFileDialog::DontConfirmOverwrite,
-                  (dialog.flags & FileDialog::kOverwritePrompt) == 0);
+  shown.setOption(QFileDialog::DontConfirmOverwrite, (dialog.flags & FileDialog::kOverwritePrompt) == 0);
   if (!directory.isEmpty()) shown.setDirectory(directory);
   if (dialog.file.empty()) return;
   const QFileInfo file(QString::fromStdString(dialog.file));
@@ -54,8 +53,7 @@ void TakeChoice(const QFileDialog& shown, FileDialog& dialog) {
 }  // namespace
 
 // A file that isn't there can be chosen in the open dialog too; what to do then is the program's.
-void RunFileDialog(QWidget* owner, FileDialog& dialog, QFileDialog::AcceptMode mode,
-                   QString& directory) {
+void RunFileDialog(QWidget* owner, FileDialog& dialog, QFileDialog::AcceptMode mode, QString& directory) {
   QFileDialog shown(owner);
   shown.setAcceptMode(mode);
   shown.setFileMode(QFileDialog::AnyFile);

@@ -74,15 +74,13 @@ void Show(OPENFILENAMEW& request, QFileDialog::AcceptMode mode) {
   const BOOL chosen =
       mode == QFileDialog::AcceptSave ? GetSaveFileNameW(&request) : GetOpenFileNameW(&request);
   if (chosen != FALSE) return;
-  throw Failure(CommDlgExtendedError() == 0 ? FailureNumber::CancelSelected
-                                            : FailureNumber::DeviceIoError);
+  throw Failure(CommDlgExtendedError() == 0 ? FailureNumber::CancelSelected : FailureNumber::DeviceIoError);
 }
 
 }  // namespace
 
 // What name may be chosen is the program's matter; the dialog tests only what the flags ask for.
-void RunFileDialog(QWidget* owner, FileDialog& dialog, QFileDialog::AcceptMode mode,
-                   QString& directory) {
+void RunFileDialog(QWidget* owner, FileDialog& dialog, QFileDialog::AcceptMode mode, QString& directory) {
   const fs::path preset = WideOf(dialog.file);
   const std::wstring title = WideOf(dialog.title);
   const std::wstring filters = FiltersOf(dialog.filter);
@@ -99,8 +97,8 @@ void RunFileDialog(QWidget* owner, FileDialog& dialog, QFileDialog::AcceptMode m
   request.nMaxFile = static_cast<DWORD>(file.size());
   request.lpstrInitialDir = folder.empty() ? nullptr : folder.c_str();
   request.lpstrTitle = title.empty() ? nullptr : title.c_str();
-  request.Flags = static_cast<DWORD>(dialog.flags) | OFN_EXPLORER | OFN_ENABLESIZING |
-                  OFN_NOCHANGEDIR | OFN_NOTESTFILECREATE;
+  request.Flags = static_cast<DWORD>(dialog.flags) | OFN_EXPLORER | OFN_ENABLESIZING | OFN_NOCHANGEDIR |
+                  OFN_NOTESTFILECREATE;
   Show(request, mode);
 
   dialog.file = Utf8Of(file.c_str());
@@ -110,8 +108,7 @@ void RunFileDialog(QWidget* owner, FileDialog& dialog, QFileDialog::AcceptMode m
 
 void OpenInShell(const QString& file) {
   const std::wstring path = QDir::toNativeSeparators(file).toStdWString();
-  ShellExecuteW(HandleOf(QApplication::activeWindow()), L"Open", path.c_str(), L"", L"",
-                SW_SHOWNORMAL);
+  ShellExecuteW(HandleOf(QApplication::activeWindow()), L"Open", path.c_str(), L"", L"", SW_SHOWNORMAL);
 }
 
 }  // namespace wheelwright

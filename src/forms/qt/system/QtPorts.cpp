@@ -52,9 +52,7 @@ void QtDesktop::ShowInformation(const std::string& text) {
   ShowBox(QMessageBox::Information, text, QMessageBox::Ok);
 }
 
-void QtDesktop::ShowError(const std::string& text) {
-  ShowBox(QMessageBox::Critical, text, QMessageBox::Ok);
-}
+void QtDesktop::ShowError(const std::string& text) { ShowBox(QMessageBox::Critical, text, QMessageBox::Ok); }
 
 bool QtDesktop::AskQuestion(const std::string& text) { return Ask(QMessageBox::Question, text); }
 
@@ -70,14 +68,11 @@ void QtDesktop::ShowSave(FileDialog& dialog) {
 
 void QtDesktop::SetPointer(Pointer pointer) {
   const bool isHourglass = QApplication::overrideCursor() != nullptr;
-  if (pointer == Pointer::Hourglass && !isHourglass)
-    QApplication::setOverrideCursor(Qt::WaitCursor);
+  if (pointer == Pointer::Hourglass && !isHourglass) QApplication::setOverrideCursor(Qt::WaitCursor);
   if (pointer == Pointer::Normal && isHourglass) QApplication::restoreOverrideCursor();
 }
 
-void QtDesktop::OpenWithShell(const std::string& file) {
-  OpenInShell(QString::fromStdString(file));
-}
+void QtDesktop::OpenWithShell(const std::string& file) { OpenInShell(QString::fromStdString(file)); }
 
 std::optional<PictureSize> QtDesktop::SizeOfPicture(const std::string& file) {
   const QImage picture = ReadPicture(file);
@@ -93,8 +88,7 @@ void QtDesktop::EndProgram() {
 QtSettings::QtSettings()
     : store_(QSettings::NativeFormat, QSettings::UserScope, "Wheelwright", "Wheelwright") {}
 
-std::optional<std::string> QtSettings::Get(const std::string& section,
-                                           const std::string& key) const {
+std::optional<std::string> QtSettings::Get(const std::string& section, const std::string& key) const {
   if (!store_.contains(Address(section, key))) return std::nullopt;
   return store_.value(Address(section, key)).toString().toStdString();
 }

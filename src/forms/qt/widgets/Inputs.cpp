@@ -59,8 +59,8 @@ PickBox::PickBox(QWidget* parent) : QComboBox(parent) {
   new WheelGuard(*this);
 }
 
-int PickBox::ListDropDown::styleHint(StyleHint hint, const QStyleOption* option,
-                                     const QWidget* widget, QStyleHintReturn* returned) const {
+int PickBox::ListDropDown::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                                     QStyleHintReturn* returned) const {
   if (hint == SH_ComboBox_Popup) return 0;
   return QProxyStyle::styleHint(hint, option, widget, returned);
 }

@@ -4,19 +4,13 @@
 
 namespace wheelwright {
 
-QString Shown(const std::string& codePageText) {
-  return QString::fromStdString(ToUnicode(codePageText));
-}
+QString Shown(const std::string& codePageText) { return QString::fromStdString(ToUnicode(codePageText)); }
 
 std::string InCodePage(const QString& text) { return FromUnicode(text.toStdString()); }
 
-QString ShownCaption(const std::string& codePageText) {
-  return ShownMessage(ToUnicode(codePageText));
-}
+QString ShownCaption(const std::string& codePageText) { return ShownMessage(ToUnicode(codePageText)); }
 
-QString ShownMessage(const std::string& utf8) {
-  return QString::fromStdString(utf8).replace("\r\n", "\n");
-}
+QString ShownMessage(const std::string& utf8) { return QString::fromStdString(utf8).replace("\r\n", "\n"); }
 
 QString WithoutMarks(const QString& caption) {
   QString read;
@@ -29,8 +23,6 @@ QString WithoutMarks(const QString& caption) {
 
 QString WithDoubledMarks(QString text) { return text.replace("&", "&&"); }
 
-QString ShownTitle(const std::string& utf8) {
-  return QString::fromStdString(utf8).replace("[*]", "[*][*]");
-}
+QString ShownTitle(const std::string& utf8) { return QString::fromStdString(utf8).replace("[*]", "[*][*]"); }
 
 }  // namespace wheelwright

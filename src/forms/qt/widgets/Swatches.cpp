@@ -14,8 +14,7 @@ class SwatchEngine : public QIconEngine {
  public:
   explicit SwatchEngine(const QColor& color) : color_(color) {}
 
-  void paint(QPainter* painter, const QRect& rect, QIcon::Mode /*mode*/,
-             QIcon::State /*state*/) override {
+  void paint(QPainter* painter, const QRect& rect, QIcon::Mode /*mode*/, QIcon::State /*state*/) override {
     constexpr float kEdgeOpacity = 0.5F;
     QColor edge = QGuiApplication::palette().color(QPalette::Text);
     edge.setAlphaF(kEdgeOpacity);
@@ -41,9 +40,7 @@ class SwatchEngine : public QIconEngine {
 
 }  // namespace
 
-ColorArea::ColorArea(QWidget* parent) : QFrame(parent) {
-  setFrameStyle(QFrame::Panel | QFrame::Sunken);
-}
+ColorArea::ColorArea(QWidget* parent) : QFrame(parent) { setFrameStyle(QFrame::Panel | QFrame::Sunken); }
 
 void ColorArea::Fill(const QColor& color) {
   color_ = color;

@@ -26,9 +26,7 @@ bool IsInput(const QWidget& widget) {
          qobject_cast<const QCheckBox*>(&widget) != nullptr;
 }
 
-QString SpokenNameOf(QWidget& widget) {
-  return SpokenName(*QAccessible::queryAccessibleInterface(&widget));
-}
+QString SpokenNameOf(QWidget& widget) { return SpokenName(*QAccessible::queryAccessibleInterface(&widget)); }
 
 // The captions on screen that can stand for an input: of its label, of the frame around it, of its
 // tab, of its window, or its own.
@@ -42,8 +40,7 @@ QStringList CaptionsFor(const QWidget& input) {
     if (const auto* tabs = qobject_cast<const QTabWidget*>(around)) {
       captions += tabs->tabText(tabs->currentIndex());
     }
-    if (const auto* button = qobject_cast<const QAbstractButton*>(around))
-      captions += button->text();
+    if (const auto* button = qobject_cast<const QAbstractButton*>(around)) captions += button->text();
     if (around->isWindow()) captions += around->windowTitle();
   }
   return captions;
@@ -118,8 +115,7 @@ void ExpectDifferentKeys(const View& view) {
       const QString key = Mnemonic(caption);
       if (key.isEmpty()) continue;
       EXPECT_TRUE(owners.emplace(key, caption).second)
-          << key.toStdString() << ": " << caption.toStdString() << " and "
-          << owners[key].toStdString();
+          << key.toStdString() << ": " << caption.toStdString() << " and " << owners[key].toStdString();
     }
   }
 }
@@ -143,10 +139,8 @@ void ExpectReadingOrder(const std::vector<QWidget*>& reached) {
 // The widgets that the Tab key reaches, in its order.
 std::vector<QWidget*> Reached(QWidget& window) {
   std::vector<QWidget*> reached;
-  for (QWidget* next = window.nextInFocusChain(); next != &window;
-       next = next->nextInFocusChain()) {
-    const bool takesTab =
-        (next->focusPolicy() & Qt::TabFocus) != 0 && next->focusProxy() == nullptr;
+  for (QWidget* next = window.nextInFocusChain(); next != &window; next = next->nextInFocusChain()) {
+    const bool takesTab = (next->focusPolicy() & Qt::TabFocus) != 0 && next->focusProxy() == nullptr;
     if (takesTab && next->isVisible() && next->isEnabled() && next->window() == &window) {
       reached.push_back(next);
     }
@@ -155,8 +149,7 @@ std::vector<QWidget*> Reached(QWidget& window) {
 }
 
 bool IsInTabGroup(const View& view, const QWidget& widget) {
-  return view.Of(view.main.SSTab1).isAncestorOf(&widget) ||
-         view.Of(view.main.SSTab2).isAncestorOf(&widget) ||
+  return view.Of(view.main.SSTab1).isAncestorOf(&widget) || view.Of(view.main.SSTab2).isAncestorOf(&widget) ||
          view.Of(view.main.SSTab3).isAncestorOf(&widget);
 }
 

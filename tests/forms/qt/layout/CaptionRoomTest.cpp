@@ -19,18 +19,15 @@ TEST(CaptionRoom, AFieldThatIsCutOffAmongTheLoadProblemsIsTold) {
   for (const std::size_t field : {17u, 169u}) {
     const std::string report = ReportWith(field, "A weight of very many &kilogrammes");
     EXPECT_TRUE(report.starts_with("X.lng: entry " + std::to_string(field) + " (line "));
-    EXPECT_NE(report.find("where the window of load problems has room for"), std::string::npos)
-        << report;
+    EXPECT_NE(report.find("where the window of load problems has room for"), std::string::npos) << report;
     EXPECT_EQ(std::count(report.begin(), report.end(), '\n'), 1);
   }
 }
 
 TEST(CaptionRoom, AProblemThatIsCutOffIsTold) {
   for (const std::size_t problem : {102u, 104u, 105u, 107u, 108u, 109u}) {
-    const std::string report =
-        ReportWith(problem, "These words are so many that no column has room");
-    EXPECT_TRUE(report.starts_with("X.lng: entry " + std::to_string(problem) + " (line "))
-        << report;
+    const std::string report = ReportWith(problem, "These words are so many that no column has room");
+    EXPECT_TRUE(report.starts_with("X.lng: entry " + std::to_string(problem) + " (line ")) << report;
   }
   EXPECT_EQ(ReportWith(12, "These words are so many that no column has room for all of them"),
             "X.lng: all is well\n");

@@ -29,8 +29,7 @@ double Luminance(QRgb color) {
     const double part = component / 255.0;
     return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
   };
-  return 0.2126 * linear(qRed(color)) + 0.7152 * linear(qGreen(color)) +
-         0.0722 * linear(qBlue(color));
+  return 0.2126 * linear(qRed(color)) + 0.7152 * linear(qGreen(color)) + 0.0722 * linear(qBlue(color));
 }
 
 double Contrast(QRgb one, QRgb other) {
@@ -41,9 +40,8 @@ double Contrast(QRgb one, QRgb other) {
 
 // The greatest contrast in a part of a widget, against the colour that most of it has.
 double ContrastIn(QWidget& widget, const QRect& part) {
-  const QImage image = widget.window()
-                           ->grab(QRect(widget.mapTo(widget.window(), part.topLeft()), part.size()))
-                           .toImage();
+  const QImage image =
+      widget.window()->grab(QRect(widget.mapTo(widget.window(), part.topLeft()), part.size())).toImage();
   std::map<QRgb, int> counts;
   auto last = counts.emplace(image.pixel(0, 0), 0).first;
   for (int y = 0; y < image.height(); ++y) {
@@ -128,8 +126,7 @@ TEST_F(SwatchContrastTest, TheAreasKeepTheColorThatTheyShow) {
   main.lstColors.Choose(2);
   Settle();
   QWidget& area = windows.Of(main.picFarbe);
-  EXPECT_EQ(QColor(area.grab().toImage().pixel(area.width() / 2, area.height() / 2)),
-            QColor(Qt::white));
+  EXPECT_EQ(QColor(area.grab().toImage().pixel(area.width() / 2, area.height() / 2)), QColor(Qt::white));
 }
 
 // The page behind a picture changes with the desktop, what surrounds it stays plain.

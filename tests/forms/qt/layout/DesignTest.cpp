@@ -66,9 +66,7 @@ class MainDesignTest : public RealWindows {
   }
 
   // The dots between two controls, of which the other stands below or right of the first.
-  int Below(const Control& one, const Control& other) {
-    return Place(other).top() - Place(one).bottom() - 1;
-  }
+  int Below(const Control& one, const Control& other) { return Place(other).top() - Place(one).bottom() - 1; }
   int Beside(const Control& one, const Control& other) {
     return Place(other).left() - Place(one).right() - 1;
   }

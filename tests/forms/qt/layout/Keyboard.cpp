@@ -15,9 +15,7 @@ namespace {
 constexpr int kLongestRound = 100;
 
 // The control's part that takes the keys.
-QWidget* TakerOf(QWidget& widget) {
-  return widget.focusProxy() == nullptr ? &widget : widget.focusProxy();
-}
+QWidget* TakerOf(QWidget& widget) { return widget.focusProxy() == nullptr ? &widget : widget.focusProxy(); }
 
 }  // namespace
 

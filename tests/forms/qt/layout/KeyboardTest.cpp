@@ -42,8 +42,8 @@ class KeyboardTest : public Keyboard {
       const bool isUsed = dynamic_cast<const Captioned*>(control) == nullptr ||
                           dynamic_cast<const Button*>(control) != nullptr ||
                           dynamic_cast<const CheckBox*>(control) != nullptr;
-      const bool isSeenOnly = dynamic_cast<const Picture*>(control) != nullptr ||
-                              dynamic_cast<const Swatch*>(control) != nullptr;
+      const bool isSeenOnly =
+          dynamic_cast<const Picture*>(control) != nullptr || dynamic_cast<const Swatch*>(control) != nullptr;
       if (widget.isVisible() && isUsed && !isSeenOnly) names += widget.objectName();
     }
     return names;
@@ -71,8 +71,7 @@ TEST_F(KeyboardTest, AValueIsChangedAndSaved) {
   EXPECT_FALSE(test.vars.IsSaved);
   Press(QKeySequence::Save);
   EXPECT_TRUE(test.vars.IsSaved);
-  EXPECT_NE(test.Disk(TestSession::kHandlingPath).find(VehicleLineOf("TRUCK", "2222.5")),
-            std::string::npos);
+  EXPECT_NE(test.Disk(TestSession::kHandlingPath).find(VehicleLineOf("TRUCK", "2222.5")), std::string::npos);
   EXPECT_EQ(Differences(), "");
 }
 
@@ -231,8 +230,8 @@ TEST_F(KeyboardTest, VehiclesAreChosenForExport) {
   TabTo(main.cmdExportCar);
   Press(Qt::Key_Space);
   ReturnTo(test.exporter);
-  EXPECT_EQ(RoundOfTab(), (QStringList{"cmdAdd", "cmdDel", "cmdAddAll", "cmdDelAll", "lst2",
-                                       "cmdExport", "cmdClose", "lst1"}));
+  EXPECT_EQ(RoundOfTab(), (QStringList{"cmdAdd", "cmdDel", "cmdAddAll", "cmdDelAll", "lst2", "cmdExport",
+                                       "cmdClose", "lst1"}));
   TabTo(test.exporter.lst1);
   Press(Qt::Key_Home);
   Press(Qt::Key_Down, Qt::ShiftModifier);
@@ -261,8 +260,8 @@ TEST_F(KeyboardTest, EscapeLeavesTheExport) {
 }
 
 TEST_F(KeyboardTest, TheLoadProblemsAreReadAndLeft) {
-  OpenByKey(TestSession::kHandlingPath,
-            CrLf({VehicleLineOf("BUS", "heavy"), VehicleLineOf("TAXI", "light")}), 1);
+  OpenByKey(TestSession::kHandlingPath, CrLf({VehicleLineOf("BUS", "heavy"), VehicleLineOf("TAXI", "light")}),
+            1);
   ASSERT_TRUE(windows.Of(test.error).isVisible());
   ReturnTo(test.error);
   EXPECT_EQ(RoundOfTab(), (QStringList{"cmdClose", "lstErrors"}));
@@ -285,8 +284,8 @@ TEST_F(KeyboardTest, TheLoadProblemsAreLeftByTheirButton) {
 TEST_F(KeyboardTest, TheButtonsBesideTheTabsAreAllReached) {
   OpenThreeVehicles();
   const QStringList round = RoundOfTab();
-  for (const char* name : {"cmdOpen", "cmdSave", "cmdSaveAs", "cmdUndo", "cmdBackup", "cmdHelp",
-                           "cmdInfo", "cmdEnde"}) {
+  for (const char* name :
+       {"cmdOpen", "cmdSave", "cmdSaveAs", "cmdUndo", "cmdBackup", "cmdHelp", "cmdInfo", "cmdEnde"}) {
     EXPECT_TRUE(round.contains(name)) << name;
   }
 }

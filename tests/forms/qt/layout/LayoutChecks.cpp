@@ -27,8 +27,7 @@ bool Fits(const QPushButton& button) {
   option.initFrom(&button);
   const QStyle& style = *button.style();
   const QRect room = style.subElementRect(QStyle::SE_PushButtonContents, &option, &button);
-  return WidthOf(button.text(), button) <= room.width() &&
-         button.fontMetrics().height() <= room.height();
+  return WidthOf(button.text(), button) <= room.width() && button.fontMetrics().height() <= room.height();
 }
 
 bool Fits(const QTabBar& bar) {
@@ -73,15 +72,14 @@ bool ShowsWhole(const QWidget& widget) {
 }
 
 bool LieApart(const QWidget& one, const QWidget& other) {
-  return one.isAncestorOf(&other) || other.isAncestorOf(&one) ||
-         !PlaceOf(one).intersects(PlaceOf(other));
+  return one.isAncestorOf(&other) || other.isAncestorOf(&one) || !PlaceOf(one).intersects(PlaceOf(other));
 }
 
 void ExpectWholeCaptions(const View& view) {
   for (const Control* control : view.showing) {
     const QWidget& widget = view.Of(*control);
-    EXPECT_TRUE(ShowsWhole(widget))
-        << control->Name() << " in " << widget.width() << " by " << widget.height();
+    EXPECT_TRUE(ShowsWhole(widget)) << control->Name() << " in " << widget.width() << " by "
+                                    << widget.height();
   }
 }
 
@@ -124,9 +122,7 @@ void ForTwoRows(const Fields& fields, const View& view, const Visitor& visit) {
 }
 
 void ExpectRowsInOrder(const View& view) {
-  const auto expectBelow = [](QRect above, QRect below, int) {
-    EXPECT_LT(above.bottom(), below.top());
-  };
+  const auto expectBelow = [](QRect above, QRect below, int) { EXPECT_LT(above.bottom(), below.top()); };
   ForTwoRows(kHandlingFields, view, expectBelow);
   ForTwoRows(kDefinitionFields, view, expectBelow);
 }

@@ -107,9 +107,7 @@ TEST_F(WindowSetTest, OnlyTheMainWindowCountsForTheEnd) {
 }
 
 TEST_F(WindowSetTest, AnArrowOfTheExportIsDescribedByTheListThatItFills) {
-  const auto description = [this](const Button& arrow) {
-    return windows.Of(arrow).accessibleDescription();
-  };
+  const auto description = [this](const Button& arrow) { return windows.Of(arrow).accessibleDescription(); };
   EXPECT_EQ(description(test.exporter.cmdAdd), "E111");
   EXPECT_EQ(description(test.exporter.cmdAddAll), "E111");
   EXPECT_EQ(description(test.exporter.cmdDel), "E110");

@@ -57,9 +57,7 @@ std::string NameOf(const ::testing::TestParamInfo<Setting>& info) {
                                                 : "");
 }
 
-class WindowsTest : private FontOfDesktop,
-                    public RealWindows,
-                    public ::testing::WithParamInterface<Setting> {
+class WindowsTest : private FontOfDesktop, public RealWindows, public ::testing::WithParamInterface<Setting> {
  protected:
   WindowsTest() : FontOfDesktop(GetParam().font) {
     const QString file = GetParam().language + ".lng";

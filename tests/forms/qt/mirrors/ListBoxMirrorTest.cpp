@@ -42,8 +42,7 @@ class ListBoxMirrorTest : public MirrorBench {
 };
 
 TEST_F(ListBoxMirrorTest, TheFocusChoosesNothing) {
-  for (const Qt::FocusReason reason :
-       {Qt::TabFocusReason, Qt::MouseFocusReason, Qt::ShortcutFocusReason}) {
+  for (const Qt::FocusReason reason : {Qt::TabFocusReason, Qt::MouseFocusReason, Qt::ShortcutFocusReason}) {
     elsewhere.setFocus();
     view.setFocus(reason);
     Settle();

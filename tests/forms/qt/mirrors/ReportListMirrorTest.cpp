@@ -16,9 +16,7 @@ class ReportListMirrorTest : public MirrorBench {
     Settle();
   }
 
-  QString Cell(int row, int column) const {
-    return view.model()->index(row, column).data().toString();
-  }
+  QString Cell(int row, int column) const { return view.model()->index(row, column).data().toString(); }
 
   std::array<int, 3> Widths() const {
     const QHeaderView& header = *view.header();

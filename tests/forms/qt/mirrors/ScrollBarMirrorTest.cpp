@@ -22,8 +22,7 @@ class ScrollBarMirrorTest : public MirrorBench {
     option.pageStep = widget.pageStep();
     option.sliderPosition = widget.sliderPosition();
     const QStyle& style = *widget.style();
-    return style.subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider, &widget)
-        .center();
+    return style.subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider, &widget).center();
   }
 
   void DragTo(QPoint place) {

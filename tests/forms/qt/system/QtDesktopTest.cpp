@@ -118,10 +118,8 @@ TEST(QtDesktopTest, AFileWithAnyNameGoesToTheShell) {
 TEST(QtEdgeTest, AFailureThatNothingCaughtIsShownAndEndsTheEvents) {
   QtEdge edge;
   QtDesktop().SetPointer(Pointer::Hourglass);
-  const BoxHand hand(QMessageBox::Critical, "Run-time error 9\nSubscript out of range",
-                     QMessageBox::Ok);
-  QTimer::singleShot(
-      0, [&] { edge.Enter([] { throw Failure(FailureNumber::SubscriptOutOfRange); }); });
+  const BoxHand hand(QMessageBox::Critical, "Run-time error 9\nSubscript out of range", QMessageBox::Ok);
+  QTimer::singleShot(0, [&] { edge.Enter([] { throw Failure(FailureNumber::SubscriptOutOfRange); }); });
   EXPECT_EQ(QApplication::exec(), 1);
   EXPECT_TRUE(edge.HasFailed());
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);

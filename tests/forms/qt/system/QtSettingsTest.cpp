@@ -12,9 +12,7 @@ namespace {
 
 class QtSettingsTest : public ::testing::Test {
  protected:
-  QtSettingsTest() {
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path());
-  }
+  QtSettingsTest() { QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path()); }
 
   QTemporaryDir folder;
 };

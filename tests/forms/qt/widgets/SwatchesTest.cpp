@@ -72,8 +72,7 @@ TEST_F(SwatchesTest, OtherListsShowNone) {
 }
 
 TEST_F(SwatchesTest, TheyAreAsLargeAsTheLettersBesideThem) {
-  for (QSize size :
-       {Of<QListView>(main.lstColors).iconSize(), Of<QComboBox>(main.cmbColor1).iconSize()}) {
+  for (QSize size : {Of<QListView>(main.lstColors).iconSize(), Of<QComboBox>(main.cmbColor1).iconSize()}) {
     EXPECT_EQ(size, SwatchIconSize(windows.Of(main.lstColors)));
   }
   EXPECT_GT(SwatchIconSize(windows.Of(main.lstColors)).height(),
