@@ -7,7 +7,7 @@ FieldText::FieldText(std::string_view text) {
     PutElsewhere(text);
     return;
   }
-  std::memcpy(bytes_.data(), text.data(), text.size());
+  text.copy(bytes_.data(), text.size());
   bytes_[kMark] = static_cast<char>(text.size() + 1);
 }
 

@@ -3,9 +3,10 @@
 namespace wheelwright::testing {
 
 int Dice::Below(int sides) {
-  if (sides <= 256) return Byte() * sides / 256;
-  const int high = Byte();
-  return (high * 256 + Byte()) * sides / 65536;
+  std::int64_t thrown = Byte();
+  std::int64_t of = 256;
+  for (; of < sides; of *= 256) thrown = thrown * 256 + Byte();
+  return static_cast<int>(thrown * sides / of);
 }
 
 int Dice::Byte() {

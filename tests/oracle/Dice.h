@@ -12,7 +12,7 @@ namespace wheelwright::testing {
 
 class Dice {
  public:
-  // Each throw takes a byte, or two for more than 256 sides. Behind the last byte all throws are 0.
+  // Each throw takes as many bytes as it has sides to tell apart. Behind the last byte all throws are 0.
   explicit Dice(std::string bytes) : bytes_(std::move(bytes)) {}
   // Without an end; the same seed gives the same throws on every machine.
   explicit Dice(std::uint64_t seed) : engine_(std::in_place, seed) {}
