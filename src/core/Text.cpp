@@ -3,6 +3,8 @@
 #include "core/CodePage.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <utility>
 
 namespace wheelwright {
 namespace {
@@ -11,6 +13,25 @@ namespace {
 bool IsTheOnlyShapeOf(char folded) {
   return std::count(codepage::kLowerCase.begin(), codepage::kLowerCase.end(), folded) == 1;
 }
+
+// The first eight letters as a number of the same order; most texts differ there.
+std::uint64_t BeginningOf(std::string_view text) {
+  std::uint64_t beginning = 0;
+  for (std::size_t i = 0; i < sizeof beginning; ++i) {
+    beginning = beginning << 8U | static_cast<unsigned char>(i < text.size() ? FoldCase(text[i]) : '\0');
+  }
+  return beginning;
+}
+
+struct SortKey {
+  std::uint64_t beginning;
+  std::string* text;
+
+  bool operator<(const SortKey& other) const {
+    if (beginning != other.beginning) return beginning < other.beginning;
+    return SortsBefore(*text, *other.text);
+  }
+};
 
 }  // namespace
 
@@ -53,6 +74,18 @@ int CompareIgnoringCase(std::string_view left, std::string_view right) {
   }
   if (left.size() == right.size()) return 0;
   return left.size() < right.size() ? -1 : 1;
+}
+
+void SortAsInLists(std::vector<std::string>& texts) {
+  if (std::is_sorted(texts.begin(), texts.end(), SortsBefore)) return;
+  std::vector<SortKey> keys;
+  keys.reserve(texts.size());
+  for (std::string& text : texts) keys.push_back({BeginningOf(text), &text});
+  std::stable_sort(keys.begin(), keys.end());
+  std::vector<std::string> sorted;
+  sorted.reserve(texts.size());
+  for (const SortKey& key : keys) sorted.push_back(std::move(*key.text));
+  texts = std::move(sorted);
 }
 
 }  // namespace wheelwright

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace wheelwright {
 
@@ -34,5 +35,8 @@ int CompareIgnoringCase(std::string_view left, std::string_view right);
 inline bool SortsBefore(std::string_view left, std::string_view right) {
   return CompareIgnoringCase(left, right) < 0;
 }
+
+// Brings texts into that order; equal ones keep theirs.
+void SortAsInLists(std::vector<std::string>& texts);
 
 }  // namespace wheelwright

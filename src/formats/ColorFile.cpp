@@ -37,10 +37,11 @@ void TakePairs(CommaLine& line, CarColorEntry& entry) {
 // "1,2,3<tab><tab><tab><tab># 7 name": one tab fewer behind numbers of eight characters or more.
 void AddColorLine(std::string& out, const ColorEntry& color) {
   constexpr std::size_t kLongNumbers = 8;
-  std::string line =
+  const std::string numbers =
       std::to_string(color.Red) + "," + std::to_string(color.Green) + "," + std::to_string(color.Blue);
-  line += line.size() < kLongNumbers ? "\t\t\t\t" : "\t\t\t";
-  AddLine(out, line + "# " + std::to_string(color.Index) + " " + color.ColorName);
+  out.append(numbers).append(numbers.size() < kLongNumbers ? "\t\t\t\t" : "\t\t\t");
+  out.append("# ").append(std::to_string(color.Index)).append(" ");
+  AddLine(out, color.ColorName);
 }
 
 // "harrow, 0, 1, 5, 5"

@@ -40,7 +40,7 @@ void ReadNames(std::string_view text, HandlingFile& file) {
       TakeCommentFields(line, file);
     }
   }
-  std::stable_sort(file.names.begin(), file.names.end(), SortsBefore);
+  SortAsInLists(file.names);
   file.hasOddNames = !problems.empty();
 }
 

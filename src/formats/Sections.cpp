@@ -22,7 +22,9 @@ bool Banner::IsIn(std::string_view line, std::size_t from) const {
 std::string WithSectionRewritten(std::string_view text, const SectionRules& rules,
                                  const std::function<void(std::string& out)>& addTable) {
   const Banner banner('#');
-  std::string out = rules.hasBanner ? banner.Text() : "";
+  std::string out;
+  out.reserve(text.size() + text.size() / 8);
+  if (rules.hasBanner) out += banner.Text();
   bool inSection = false;
   bool tableWritten = false;
   bool mayOpen = true;

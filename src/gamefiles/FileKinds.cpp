@@ -37,6 +37,11 @@ void ListColors(ListBox& list, const Table<ColorEntry>& colors, int count) {
   list.AddRows(std::move(labels));
 }
 
+std::string WithLastLineEnd(std::string text) {
+  text += kLineEnd;
+  return text;
+}
+
 // The handling file
 
 void TakeHandling(Session& session, HandlingFile& file) {
@@ -59,10 +64,11 @@ std::optional<int> LoadHandling(Session& session, std::string_view text) {
 
 std::string RewrittenHandling(Session& session, const std::string& /*target*/) {
   const FrmMain& main = session.main;
-  return WriteHandling(session.files.Read(session.vars.CurrentFile), {.names = main.cmbAutos.Rows(),
-                                                                      .cars = session.vars.Cars,
-                                                                      .author = main.txtAuthor.Text(),
-                                                                      .created = main.txtDate.Text()});
+  return WithLastLineEnd(
+      WriteHandling(session.files.Read(session.vars.CurrentFile), {.names = main.cmbAutos.Rows(),
+                                                                   .cars = session.vars.Cars,
+                                                                   .author = main.txtAuthor.Text(),
+                                                                   .created = main.txtDate.Text()}));
 }
 
 // The definition file
@@ -78,7 +84,7 @@ std::optional<int> LoadDefinitions(Session& session, std::string_view text) {
 }
 
 std::string RewrittenDefinitions(Session& session, const std::string& /*target*/) {
-  return WriteDefinitions(session.files.Read(session.vars.CurrentFile), session.vars.Ides);
+  return WithLastLineEnd(WriteDefinitions(session.files.Read(session.vars.CurrentFile), session.vars.Ides));
 }
 
 // The colour file
@@ -114,10 +120,10 @@ std::optional<int> LoadColors(Session& session, std::string_view text) {
 // made before, and a second one without room doesn't leave the open file with the first.
 std::string RewrittenColors(Session& session, const std::string& target) {
   const Vars& vars = session.vars;
-  std::string palette = WritePalette(session.files.Read(vars.CurrentFile), vars.Colors);
-  palette += kLineEnd;
-  std::string text = WritePairs(palette, vars.CarColors);
-  session.files.CheckRoom(target, text + std::string(kLineEnd));
+  const std::string palette =
+      WithLastLineEnd(WritePalette(session.files.Read(vars.CurrentFile), vars.Colors));
+  std::string text = WithLastLineEnd(WritePairs(palette, vars.CarColors));
+  session.files.CheckRoom(target, text);
   session.files.Write(vars.CurrentFile, palette);
   return text;
 }

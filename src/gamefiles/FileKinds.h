@@ -29,7 +29,7 @@ struct FileKind {
   // Fills snapshots, tables and lists from the text of a file. Gives the number of the line that
   // damaged the load, if one did. A failure leaves what was read until then.
   std::optional<int> (*load)(Session& session, std::string_view text);
-  // The new text of the open file, without the line end of the final write.
+  // The new text of the open file.
   std::string (*rewritten)(Session& session, const std::string& target);
   // Copies the tables over their snapshots, or the snapshots over their tables.
   void (*copy)(Vars& vars, Snapshots way);

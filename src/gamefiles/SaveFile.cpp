@@ -14,9 +14,8 @@ bool WriteTables(Session& session, const std::string& target) {
   if (!session.files.Exists(session.vars.CurrentFile)) return false;
   session.files.ClearAttributes(session.vars.CurrentFile);
   const FileKind& kind = KindOfOpenFile(session.vars);
-  std::string text = kind.rewritten(session, target);
+  const std::string text = kind.rewritten(session, target);
   kind.copy(session.vars, Snapshots::Take);
-  text += kLineEnd;
   session.files.Write(target, text);
   session.vars.IsSaved = true;
   return true;

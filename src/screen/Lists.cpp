@@ -32,9 +32,7 @@ void RowList::AddRows(std::vector<std::string> texts) {
 // Each new text goes before the first greater row. Rows that a rename has put out of order stay as
 // they are; the merge passes them as they come.
 void RowList::MergeSorted(std::vector<std::string> texts) {
-  if (!std::is_sorted(texts.begin(), texts.end(), SortsBefore)) {
-    std::stable_sort(texts.begin(), texts.end(), SortsBefore);
-  }
+  SortAsInLists(texts);
   std::vector<std::string> merged;
   std::vector<bool> marked;
   merged.reserve(rows_.size() + texts.size());

@@ -53,6 +53,15 @@ RC_GTEST_PROP(TextLaws, TextsAreOrderedAndSearchedByTheirLowerCaseLetters, ()) {
   RequireTextLaws(Told(FewOf(dice, "xy", 5) + word + FewOf(dice, "ab\r\n ", 12)), word);
 }
 
+RC_GTEST_PROP(TextLaws, ListsAreSortedByLowerCaseLetters, ()) {
+  Dice dice = AnyDice();
+  std::vector<std::string> texts = TextsOfFew(dice, "aAbB\xC4\xE4[");
+  for (std::string& text : texts)
+    text.insert(0, static_cast<std::size_t>(dice.Below(10)), 'x')
+        .append(static_cast<std::size_t>(dice.Below(2)), '\0');
+  RequireOrderLaws(texts);
+}
+
 RC_GTEST_PROP(TextLaws, EveryByteSurvivesTheWayToTheScreenAndBack, ()) {
   Dice dice = AnyDice();
   RequireLetterLaws(Told(AnyBytes(dice, 60)));

@@ -6,6 +6,7 @@
 #include "oracle/Law.h"
 #include "oracle/PlainTexts.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <map>
@@ -121,6 +122,16 @@ void RequireTextLaws(const std::string& text, const std::string& other) {
   Require(TrimBlanks("  " + text + " ") == trimmed, "blanks at the ends change no cut text");
   Require(trimmed.empty() || (trimmed.front() != ' ' && trimmed.back() != ' '),
           "a cut text has no blanks at its ends");
+}
+
+void RequireOrderLaws(const std::vector<std::string>& texts) {
+  std::vector<std::string> expected = texts;
+  std::stable_sort(expected.begin(), expected.end(), [](const std::string& left, const std::string& right) {
+    return FoldedCase(left) < FoldedCase(right);
+  });
+  std::vector<std::string> sorted = texts;
+  SortAsInLists(sorted);
+  Require(sorted == expected, "texts are sorted by their lower-case letters, equal ones in their order");
 }
 
 }  // namespace wheelwright::testing

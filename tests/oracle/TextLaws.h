@@ -28,4 +28,7 @@ void RequireLetterLaws(const std::string& text);
 // Searching, comparing, cutting and filling.
 void RequireTextLaws(const std::string& text, const std::string& other);
 
+// The order of lists.
+void RequireOrderLaws(const std::vector<std::string>& texts);
+
 }  // namespace wheelwright::testing
