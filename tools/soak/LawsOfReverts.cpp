@@ -40,7 +40,7 @@ std::vector<std::string> KeysOf(const Tables& tables, int fileType) {
 
 void Display(Car& car) {
   if (car.ABS.empty()) car.ABS = "0";
-  while (car.ModelFlags.size() < kFlagDigits) car.ModelFlags.insert(0, 1, '0');
+  while (car.ModelFlags.size() < kFlagDigits) car.ModelFlags = '0' + std::string(car.ModelFlags);
 }
 
 void CheckDisplay(const Moment& moment, Tables expected) {
