@@ -14,7 +14,7 @@ FieldText::FieldText(std::string_view text) {
 void FieldText::PutElsewhere(std::string_view text) {
   const std::string* const there = new std::string(text);
   bytes_ = {};
-  std::memcpy(bytes_.data(), &there, sizeof there);
+  std::memcpy(bytes_.data(), &there, sizeof(void*));
 }
 
 }  // namespace wheelwright

@@ -76,12 +76,12 @@ class FieldText {
   bool IsElsewhere() const { return bytes_[kMark] == 0; }
   std::string* Elsewhere() const {
     std::string* text = nullptr;
-    std::memcpy(&text, bytes_.data(), sizeof text);
+    std::memcpy(&text, bytes_.data(), sizeof(void*));
     return text;
   }
   void PutElsewhere(std::string_view text);
 
-  alignas(std::string*) std::array<char, 8> bytes_ = kNoText;
+  alignas(void*) std::array<char, 8> bytes_ = kNoText;
 };
 
 }  // namespace wheelwright
