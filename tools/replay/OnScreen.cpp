@@ -118,6 +118,8 @@ void CompareReport(const ReportList& list, const QAbstractItemModel& shown, Comp
 // What the widget itself paints, a dot for each of the design's; nothing where it paints nothing.
 QImage Painted(QWidget& widget) {
   if (!widget.isVisible()) widget.grab();  // which lays it out
+  // A hidden page may have left it no room.
+  if (widget.size().isEmpty()) widget.resize(widget.sizeHint());
   QImage image(widget.size(), QImage::Format_ARGB32_Premultiplied);
   image.fill(Qt::transparent);
   widget.render(&image, {}, {}, QWidget::RenderFlags());
