@@ -63,7 +63,7 @@ QLayout* ColorEditor(FrmMain& main, QWidget& page, MirrorSet& mirrors) {
   AddBar(main.lblGrün, main.HScroll2, main.lblGrünWert, *grid, page, mirrors);
   AddBar(main.lblBlau, main.HScroll3, main.lblBlauWert, *grid, page, mirrors);
   const int below = grid->rowCount();
-  for (int row = 0; row < below; ++row) grid->setRowMinimumHeight(row, RowHeight(page));
+  for (int row = 0, height = RowHeight(page); row < below; ++row) grid->setRowMinimumHeight(row, height);
   grid->addWidget(&mirrors.Add(main.picFarbe, &page).Widget(), below, kInputColumn, 1, 2);
   grid->setRowStretch(below, 1);
   return grid;

@@ -52,6 +52,7 @@ void BuildRows(FrmMain& main, const std::array<FieldRow<Record>, Count>& fields,
   }
   std::ranges::sort(ofTab, {}, &FieldRow<Record>::tabRow);
   QGridLayout& grid = GridOf(page);
+  const int height = RowHeight(page);
   for (const FieldRow<Record>* field : ofTab) {
     auto& [label, hint] = LabelsOf(main, *field);
     LabelMirror& name = mirrors.Add(label, &page);
@@ -60,7 +61,7 @@ void BuildRows(FrmMain& main, const std::array<FieldRow<Record>, Count>& fields,
     std::visit([&](auto input) { add(main.*input); }, field->input);
     if (InputOf<TextBox>(main, *field) == &main.txtExtra1) add(main.cmbExtra1);
     PlaceRow(grid, field->tabRow, name, inputs, hint ? &mirrors.Add(*hint, &page) : nullptr);
-    grid.setRowMinimumHeight(field->tabRow, RowHeight(page));
+    grid.setRowMinimumHeight(field->tabRow, height);
   }
   grid.setRowStretch(grid.rowCount(), 1);
 }

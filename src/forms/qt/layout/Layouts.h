@@ -22,7 +22,8 @@ void BuildColorPages(FrmMain& main, TabGroupMirror& group, MirrorSet& mirrors);
 // The columns of a page; where there is no hint, the value of the input stands there.
 enum PageColumn { kLabelColumn, kInputColumn, kInfoColumn };
 
-// The height of a row with any kind of input, so that rows keep the same distance on all pages.
+// The height of a row with any kind of input, so that rows keep the same distance on all pages. Builds
+// such an input to ask it, which takes time.
 int RowHeight(QWidget& page);
 
 // A frame with one input in it, whose name is the frame's caption.
