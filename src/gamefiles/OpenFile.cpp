@@ -30,16 +30,14 @@ void ShowTabsOf(FrmMain& main, const FileKind& shown) {
   for (const FileKind& kind : kFileKinds) (main.*kind.tabs).SetVisible(&kind == &shown);
 }
 
-void NormaliseLineEnds(Session& session) {
+// Gives what the open file holds from then on.
+std::string NormaliseLineEnds(Session& session) {
   const std::string& file = session.vars.CurrentFile;
-  const auto rewritten = WithoutBareLineFeeds(session.files.Read(file));
-  if (rewritten) session.files.Write(file, *rewritten);
-}
-
-// Gives the number of the line that damaged the load, if one did.
-std::optional<int> LoadFile(Session& session, const FileKind& kind) {
-  NormaliseLineEnds(session);
-  return kind.load(session, session.files.Read(session.vars.CurrentFile));
+  std::string text = session.files.Read(file);
+  auto rewritten = WithoutBareLineFeeds(text);
+  if (!rewritten) return text;
+  session.files.Write(file, *rewritten);
+  return *std::move(rewritten);
 }
 
 void EnableCommands(FrmMain& main, const FileKind& kind) {
@@ -87,7 +85,7 @@ void OpenChosenFile(Session& session) {
     main.txtAuthor.SetText("");
     main.txtDate.SetText("");
   }
-  if (const std::optional<int> damagedLine = LoadFile(session, *kind)) {
+  if (const std::optional<int> damagedLine = kind->load(session, NormaliseLineEnds(session))) {
     session.desktop.SetPointer(Pointer::Normal);
     ResetWindow(session);
     session.desktop.ShowError(Message(session, kDamagedLine) + std::to_string(*damagedLine));

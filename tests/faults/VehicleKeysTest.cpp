@@ -86,7 +86,7 @@ TEST(VehicleKeysTest, AFilesOwnKeysComeFromItsLinesAsTheyAre) {
     EXPECT_EQ(s.main.cmbAutos.Rows(), Texts{key});
     Texts paths;
     for (const FileCall& call : s.files.calls) paths.push_back(call.path);
-    EXPECT_EQ(paths, (Texts{"", "/game/handling.cfg", "/game/handling.cfg", "/game/handling.cfg", "/app/gfx",
+    EXPECT_EQ(paths, (Texts{"", "/game/handling.cfg", "/game/handling.cfg", "/app/gfx",
                             "/app/gfx/nopictureavailable.jpg"}));
     s.Click(s.main.cmdSave);
     EXPECT_EQ(s.files.calls.back().path, "/game/handling.cfg");
