@@ -23,7 +23,13 @@ class FieldText {
  public:
   FieldText() = default;
   // A copy of any text, and back: a field is read and set like a string.
-  FieldText(std::string_view text);
+  FieldText(std::string_view text) {
+    if (text.size() > kMark) {
+      PutElsewhere(text);
+    } else {
+      PutHere(text);
+    }
+  }
   template <OtherText Text>
   FieldText(const Text& text) : FieldText(std::string_view(text)) {}
   FieldText(const FieldText& other) : bytes_(other.bytes_) {
@@ -80,6 +86,21 @@ class FieldText {
     return text;
   }
   void PutElsewhere(std::string_view text);
+  // In pieces of a fixed size that may overlap, since a copy of any size would be a call.
+  void PutHere(std::string_view text) {
+    char* const here = bytes_.data();
+    const std::size_t size = text.size();
+    if (size >= 4) {
+      std::memcpy(here, text.data(), 4);
+      std::memcpy(here + size - 4, text.data() + size - 4, 4);
+    } else if (size >= 2) {
+      std::memcpy(here, text.data(), 2);
+      std::memcpy(here + size - 2, text.data() + size - 2, 2);
+    } else if (size == 1) {
+      *here = text.front();
+    }
+    bytes_[kMark] = static_cast<char>(size + 1);
+  }
 
   alignas(void*) std::array<char, 8> bytes_ = kNoText;
 };

@@ -10,6 +10,7 @@ namespace wheelwright {
 namespace {
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+bool IsSeparator(char c) { return c == '.' || c == ','; }
 
 // The parts of a numeric text.
 struct NumericForm {
@@ -38,6 +39,19 @@ bool TakeSign(std::string_view& rest) {
   return negative;
 }
 
+// The value of a few digits and nothing else, as which nearly all whole numbers come; nothing for
+// every other text.
+std::optional<std::int16_t> FewDigits(std::string_view text) {
+  constexpr std::size_t kDigitsThatAlwaysFit = 4;
+  if (text.empty() || text.size() > kDigitsThatAlwaysFit) return std::nullopt;
+  int value = 0;
+  for (const char c : text) {
+    if (!IsDigit(c)) return std::nullopt;
+    value = value * 10 + (c - '0');
+  }
+  return static_cast<std::int16_t>(value);
+}
+
 // Nothing if the rest is no exponent.
 std::optional<std::int64_t> TakeExponent(std::string_view& rest) {
   if (std::string_view("eEdD").find(rest.front()) == std::string_view::npos) return std::nullopt;
@@ -54,7 +68,7 @@ std::optional<NumericForm> Parse(std::string_view rest) {
   NumericForm form;
   form.negative = TakeSign(rest);
   form.whole = TakeDigits(rest);
-  if (!rest.empty() && (rest.front() == '.' || rest.front() == ',')) {
+  if (!rest.empty() && IsSeparator(rest.front())) {
     rest.remove_prefix(1);
     form.fraction = TakeDigits(rest);
   }
@@ -101,9 +115,26 @@ long RoundedHalfToEven(const Magnitude& number) {
 
 }  // namespace
 
-bool IsNumeric(std::string_view text) { return Parse(text).has_value(); }
+// Nearly all numbers in files are written without an exponent, and only asked whether they are any.
+bool IsNumeric(std::string_view text) {
+  std::string_view rest = text;
+  TakeSign(rest);
+  bool hasDigit = false;
+  bool hasSeparator = false;
+  for (const char c : rest) {
+    if (IsDigit(c)) {
+      hasDigit = true;
+    } else if (!hasSeparator && IsSeparator(c)) {
+      hasSeparator = true;
+    } else {
+      return Parse(text).has_value();
+    }
+  }
+  return hasDigit;
+}
 
 std::int16_t ToInteger16(std::string_view text) {
+  if (const auto value = FewDigits(text)) return *value;
   const std::optional<NumericForm> form = Parse(TrimBlanks(text));
   if (!form) throw Failure(FailureNumber::TypeMismatch);
   const Magnitude number = MagnitudeOf(*form);

@@ -21,7 +21,7 @@ void TakeFields(CommaLine& line, IdeEntry& entry) {
 
 void AddDefinitionLine(std::string& out, const IdeEntry& entry) {
   for (const DefinitionValue& field : std::span(kDefinitionValues).first(kMandatoryFields)) {
-    const std::string& value = entry.*field.value;
+    const std::string_view value = entry.*field.value;
     out.append(value).append(field.separator);
     if (field.tabBehindShortText && value.size() < kShortText) out += '\t';
   }

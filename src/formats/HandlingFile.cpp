@@ -11,8 +11,11 @@
 namespace wheelwright {
 namespace {
 
+bool IsSpecialMark(char c) { return c == '%' || c == '!' || c == '$'; }
+
 bool IsVehicleLine(std::string_view line) {
-  return line.size() > kHeadColumns && HeadOf(line).find_first_of(";%$!") == std::string_view::npos;
+  const auto isMark = [](char c) { return c == ';' || IsSpecialMark(c); };
+  return line.size() > kHeadColumns && std::ranges::none_of(HeadOf(line), isMark);
 }
 
 // The text behind a word and one character, which is skipped whatever it is.
@@ -99,8 +102,7 @@ class HandlingWriter {
   void Take(std::string_view line) {
     const std::string_view head = HeadOf(line);
     const std::size_t comment = head.find(';');
-    const bool special = head.find_first_of("%!$") != std::string_view::npos;
-    if (special) {
+    if (std::ranges::any_of(head, IsSpecialMark)) {
       AddLine(out_, line);
     } else if (comment == std::string_view::npos) {
       TakeVehicleLine();

@@ -88,7 +88,7 @@ void ReadVehicleLine(const SpaceLine& line, Car& car, LineProblems& problems) {
 
 void AddVehicleLine(std::string& out, const Car& car) {
   for (const HandlingToken& token : kHandlingTokens) {
-    const std::string& value = car.*token.value;
+    const std::string_view value = car.*token.value;
     if (token.value != &Car::CarName) out += ' ';
     if (token.value == &Car::Mass) AddBlanks(out, value.size(), kMassWidth);
     if (token.value == &Car::MonetaryValue) AddBlanks(out, value.size(), kMonetaryValueWidth);

@@ -10,7 +10,10 @@ namespace {
 // More than a count that fits can have, even after every field has taken a comma away.
 constexpr std::size_t kMostCommas = 65536;
 
-bool IsBlankOrTab(char byte) { return byte == ' ' || byte == '\t'; }
+// Asked of every byte, most of which are above both.
+bool IsBlankOrTab(char byte) {
+  return static_cast<unsigned char>(byte) <= ' ' && (byte == ' ' || byte == '\t');
+}
 
 }  // namespace
 

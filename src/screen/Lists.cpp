@@ -33,6 +33,11 @@ void RowList::AddRows(std::vector<std::string> texts) {
 // they are; the merge passes them as they come.
 void RowList::MergeSorted(std::vector<std::string> texts) {
   SortAsInLists(texts);
+  if (rows_.empty()) {
+    rows_ = std::move(texts);
+    marked_.resize(rows_.size());
+    return;
+  }
   std::vector<std::string> merged;
   std::vector<bool> marked;
   merged.reserve(rows_.size() + texts.size());
