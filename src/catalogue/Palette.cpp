@@ -3,7 +3,6 @@
 #include "core/Numbers.h"
 #include "gamefiles/PaletteLabel.h"
 
-#include <algorithm>
 #include <string>
 
 namespace wheelwright {
@@ -26,9 +25,10 @@ void RelabelChosenRow(Session& session) {
 void ReferToFirstColor(Table<CarColorEntry>& carColors, std::int16_t deleted) {
   const std::int16_t last = carColors.UpperBound();
   for (int index = 0; index <= last; ++index) {
-    CarColorEntry& entry = carColors.At(index);
-    std::replace(entry.Color1.begin(), entry.Color1.end(), deleted, std::int16_t{0});
-    std::replace(entry.Color2.begin(), entry.Color2.end(), deleted, std::int16_t{0});
+    for (ColorPair& pair : carColors.At(index).Pairs) {
+      if (pair.Color1 == deleted) pair.Color1 = 0;
+      if (pair.Color2 == deleted) pair.Color2 = 0;
+    }
   }
 }
 

@@ -87,11 +87,18 @@ struct ColorEntry {
   bool operator==(const ColorEntry&) const = default;
 };
 
-// The colour pairs of one vehicle; element i of the two arrays, always equally long, is pair i.
+// Two colours that a vehicle may wear together, by the Index of each.
+struct ColorPair {
+  std::int16_t Color1 = 0;
+  std::int16_t Color2 = 0;
+
+  bool operator==(const ColorPair&) const = default;
+};
+
+// The colour pairs of one vehicle.
 struct CarColorEntry {
   FieldText ModelName;
-  std::vector<std::int16_t> Color1;
-  std::vector<std::int16_t> Color2;
+  std::vector<ColorPair> Pairs;
 
   bool operator==(const CarColorEntry&) const = default;
 };

@@ -28,16 +28,14 @@ void RepairIfNameless(const ColorEntry& firstColor, std::int16_t& index, std::st
 void ListPairsOf(Session& session, const NamesByIndex& names, CarColorEntry& entry) {
   std::string first;
   std::string second;
-  for (std::size_t pair = 0; pair < entry.Color1.size(); ++pair) {
-    LookUp(names, entry.Color1[pair], first);
-    LookUp(names, entry.Color2[pair], second);
-    RepairIfNameless(session.vars.Colors.At(0), entry.Color1[pair], first);
-    RepairIfNameless(session.vars.Colors.At(0), entry.Color2[pair], second);
+  for (ColorPair& pair : entry.Pairs) {
+    LookUp(names, pair.Color1, first);
+    LookUp(names, pair.Color2, second);
+    RepairIfNameless(session.vars.Colors.At(0), pair.Color1, first);
+    RepairIfNameless(session.vars.Colors.At(0), pair.Color2, second);
     session.main.lstCarColors.AddRow(first + " - " + second);
   }
 }
-
-using ColorNumbers = std::vector<std::int16_t>;
 
 constexpr int kNotFound = -1;
 
@@ -45,23 +43,22 @@ CarColorEntry& CurrentEntry(Session& session) {
   return session.vars.CarColors.At(session.vars.CurrentCarColor);
 }
 
-std::int16_t NumberAt(const ColorNumbers& numbers, int position) {
-  if (position < 0 || position >= static_cast<int>(numbers.size())) {
+ColorPair PairAt(const CarColorEntry& entry, int position) {
+  if (position < 0 || position >= static_cast<int>(entry.Pairs.size())) {
     throw Failure(FailureNumber::SubscriptOutOfRange);
   }
-  return numbers[static_cast<std::size_t>(position)];
+  return entry.Pairs[static_cast<std::size_t>(position)];
 }
 
 // The position of the pair whose first colour's name the text holds; the last such pair counts. A
 // number that no colour bears keeps the colour of the pair before it.
-int FindPairByName(const Table<ColorEntry>& colors, const ColorNumbers& firstColors,
-                   const std::string& text) {
+int FindPairByName(const Table<ColorEntry>& colors, const CarColorEntry& entry, const std::string& text) {
   std::unordered_map<std::int16_t, int> positions;
   for (int at = 0; at < colors.Count(); ++at) positions[colors.At(at).Index] = at;
   int pair = kNotFound;
   int color = kNotFound;
-  for (int i = 0; i < static_cast<int>(firstColors.size()); ++i) {
-    const auto found = positions.find(NumberAt(firstColors, i));
+  for (int i = 0; i < static_cast<int>(entry.Pairs.size()); ++i) {
+    const auto found = positions.find(PairAt(entry, i).Color1);
     if (found != positions.end()) color = found->second;
     if (HoldsIgnoringCase(text, FoldedCase(colors.At(color).ColorName))) pair = i;
   }
@@ -69,11 +66,9 @@ int FindPairByName(const Table<ColorEntry>& colors, const ColorNumbers& firstCol
 }
 
 // A vehicle can't be without a pair in the table: the place of the last one stays, as 0.
-ColorNumbers WithoutPair(const ColorNumbers& numbers, int pair) {
-  ColorNumbers kept = numbers;
-  kept.erase(kept.begin() + pair);
-  if (kept.empty()) kept.push_back(0);
-  return kept;
+void TakeOut(std::vector<ColorPair>& pairs, int position) {
+  pairs.erase(pairs.begin() + position);
+  if (pairs.empty()) pairs.emplace_back();
 }
 
 }  // namespace
@@ -107,8 +102,8 @@ void ShowPair(Session& session) {
   FrmMain& main = session.main;
   const int pair = main.lstCarColors.Row();
   if (main.lstCarColors.Count() < 1) return;
-  main.cmbColor1.Choose(NumberAt(CurrentEntry(session).Color1, pair));
-  main.cmbColor2.Choose(NumberAt(CurrentEntry(session).Color2, pair));
+  main.cmbColor1.Choose(PairAt(CurrentEntry(session), pair).Color1);
+  main.cmbColor2.Choose(PairAt(CurrentEntry(session), pair).Color2);
 }
 
 void AddPair(Session& session) {
@@ -116,9 +111,8 @@ void AddPair(Session& session) {
   CarColorEntry& entry = CurrentEntry(session);
   const int first = main.cmbColor1.Row();
   const int second = main.cmbColor2.Row();
-  Checked16(entry.Color1.size());
-  entry.Color1.push_back(Checked16(first));
-  entry.Color2.push_back(Checked16(second));
+  Checked16(entry.Pairs.size());
+  entry.Pairs.push_back({Checked16(first), Checked16(second)});
   const Table<ColorEntry>& colors = session.vars.Colors;
   main.lstCarColors.AddRow(colors.At(first).ColorName + " - " + colors.At(second).ColorName);
   session.vars.IsSaved = false;
@@ -129,10 +123,9 @@ void RemovePair(Session& session) {
   if (list.Row() == RowList::kNoRow) return;
   if (!session.desktop.AskQuestion(Message(session, kRemoveColor))) return;
   CarColorEntry& entry = CurrentEntry(session);
-  const int pair = FindPairByName(session.vars.Colors, entry.Color1, list.Text());
+  const int pair = FindPairByName(session.vars.Colors, entry, list.Text());
   if (pair == kNotFound) return;
-  entry.Color1 = WithoutPair(entry.Color1, pair);
-  entry.Color2 = WithoutPair(entry.Color2, pair);
+  TakeOut(entry.Pairs, pair);
   list.RemoveRow(pair);
   if (list.Count() > 0) list.Choose(0);
   session.vars.IsSaved = false;

@@ -24,13 +24,11 @@ void TakeColor(std::string_view line, std::int16_t index, ColorEntry& color) {
 // Half a pair reaches the conversion of a field that isn't there, which fails.
 void TakePairs(CommaLine& line, CarColorEntry& entry) {
   const int count = line.CountCommaFields();
-  entry.Color1.reserve(static_cast<std::size_t>(count / 2));
-  entry.Color2.reserve(static_cast<std::size_t>(count / 2));
+  entry.Pairs.reserve(static_cast<std::size_t>(count / 2));
   for (int i = 0; i <= count - 2; i += 2) {
-    entry.Color1.push_back(0);
-    entry.Color2.push_back(0);
-    entry.Color1.back() = ToInteger16(line.GetCommaField(i + 1));
-    entry.Color2.back() = ToInteger16(line.GetCommaField(i + 2));
+    ColorPair& pair = entry.Pairs.emplace_back();
+    pair.Color1 = ToInteger16(line.GetCommaField(i + 1));
+    pair.Color2 = ToInteger16(line.GetCommaField(i + 2));
   }
 }
 
@@ -47,8 +45,9 @@ void AddColorLine(std::string& out, const ColorEntry& color) {
 // "harrow, 0, 1, 5, 5"
 void AddPairsLine(std::string& out, const CarColorEntry& entry) {
   out += entry.ModelName;
-  for (std::size_t pair = 0; pair < entry.Color1.size(); ++pair) {
-    out += ", " + std::to_string(entry.Color1[pair]) + ", " + std::to_string(entry.Color2.at(pair));
+  for (const ColorPair& pair : entry.Pairs) {
+    out.append(", ").append(std::to_string(pair.Color1));
+    out.append(", ").append(std::to_string(pair.Color2));
   }
   out += kLineEnd;
 }

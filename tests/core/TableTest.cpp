@@ -102,16 +102,16 @@ TEST(TableTest, AStepBehindGivesTheRecordAndGoesOn) {
 TEST(TableTest, ACopySharesNothingWithItsModel) {
   Table<CarColorEntry> model;
   model.Reset();
-  model.At(0) = {"bus", {1, 2}, {3, 4}};
+  model.At(0) = {"bus", {{1, 3}, {2, 4}}};
   Table<CarColorEntry> copy = model;
-  copy.At(0).Color1[0] = 77;
-  copy.At(0).Color2.push_back(78);
+  copy.At(0).Pairs[0].Color1 = 77;
+  copy.At(0).Pairs.push_back({0, 78});
   copy.At(0).ModelName = "busx";
   copy.ExtendTo(1);
   EXPECT_EQ(model.Count(), 1);
-  EXPECT_EQ(model.At(0), (CarColorEntry{"bus", {1, 2}, {3, 4}}));
-  model.At(0).Color1[1] = 79;
-  EXPECT_EQ(copy.At(0), (CarColorEntry{"busx", {77, 2}, {3, 4, 78}}));
+  EXPECT_EQ(model.At(0), (CarColorEntry{"bus", {{1, 3}, {2, 4}}}));
+  model.At(0).Pairs[1].Color1 = 79;
+  EXPECT_EQ(copy.At(0), (CarColorEntry{"busx", {{77, 3}, {2, 4}, {0, 78}}}));
 }
 
 TEST(TableTest, ACopyReplacesWhatTheTableHeld) {

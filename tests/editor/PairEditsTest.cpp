@@ -160,7 +160,7 @@ TEST(PairEdits, OnlyTheRangeOfAnIndexLimitsTheNumberOfPairs) {
   for (int pairs = 1; pairs < kMost; ++pairs) test.main.cmdAddColor.ClickByHand();
   EXPECT_EQ(test.main.lstCarColors.Count(), kMost);
   EXPECT_EQ(NumberThrownBy([&] { test.main.cmdAddColor.ClickByHand(); }), 6);
-  EXPECT_EQ(test.vars.CarColors.At(0).Color1.size(), std::size_t{kMost});
+  EXPECT_EQ(test.vars.CarColors.At(0).Pairs.size(), std::size_t{kMost});
 }
 
 TEST(PairEdits, ThePairGoesToTheVehicleOnScreen) {

@@ -18,7 +18,7 @@ std::vector<std::string> TextsOn(FrmMain& main) {
 }
 
 void HoldOneOfEach(TestSession& s) {
-  HoldCarColors(s, {{.Index = 0, .ColorName = "red"}}, {{"axo", {0}, {0}}, {"byl", {7}, {0}}});
+  HoldCarColors(s, {{.Index = 0, .ColorName = "red"}}, {{"axo", {{0, 0}}}, {"byl", {{7, 0}}}});
   HoldIdes(s, {TaggedIde("AXO", "a"), TaggedIde("BYL", "b")});
   HoldCars(s, {TaggedCar("AXO", "a"), TaggedCar("BYL", "b")});
 }

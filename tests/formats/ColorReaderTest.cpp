@@ -255,7 +255,7 @@ TEST(ColorReader, AVehicleTakesAsManyPairsAsSixteenBitsCountFields) {
   for (int pair = 0; pair < 16383; ++pair) line += ",0,1";
   const Read test(Vehicles({line}));
   EXPECT_EQ(test.pairs.damagedLine, std::nullopt);
-  EXPECT_EQ(test.pairs.records.At(0).Color1.size(), 16383U);
+  EXPECT_EQ(test.pairs.records.At(0).Pairs.size(), 16383U);
   EXPECT_EQ(Read(Vehicles({line + ","})).failure, kOverflow);
 }
 

@@ -22,10 +22,7 @@ class Opened {
 
   // As edits leave them.
   void GiveTheFirstColorMoreRed() { palette.colors.At(0).Red = 200; }
-  void GiveTheFirstVehicleAPair() {
-    pairs.records.At(0).Color1.push_back(0);
-    pairs.records.At(0).Color2.push_back(0);
-  }
+  void GiveTheFirstVehicleAPair() { pairs.records.At(0).Pairs.push_back({0, 0}); }
 
   std::string onDisk;
   PaletteSection palette;

@@ -97,7 +97,7 @@ TEST(ColorSample, HasNinetyColorsAndOneToEightPairsForEachVehicleOfTheDefinition
   std::set<std::size_t> counts;
   for (const CarColorEntry& entry : pairs.records.Walk()) {
     models.insert(entry.ModelName);
-    counts.insert(entry.Color1.size());
+    counts.insert(entry.Pairs.size());
   }
   EXPECT_EQ(models, ValuesOf(&IdeEntry::ModelName));
   EXPECT_EQ(counts, (std::set<std::size_t>{1, 2, 3, 4, 5, 6, 7, 8}));

@@ -29,7 +29,6 @@ const std::string kPalette =
           "taxi, 1, 2", "bus, 2, 1, 0, 1", "end"});
 
 using Rows = std::vector<std::string>;
-using Numbers = std::vector<std::int16_t>;
 
 void AnswerAndRevert(TestSession& test, bool yes = true) {
   test.desktop.shown.clear();
@@ -280,13 +279,13 @@ TEST(RevertToSnapshot, ADeletedColorIsBackWithItsPairs) {
   TestSession test;
   test.OpenColors(kPalette);
   DeleteColorOfRow(test, 1);
-  EXPECT_EQ(test.vars.CarColors.At(0).Color1, Numbers{0});
+  EXPECT_EQ(test.vars.CarColors.At(0), (CarColorEntry{"taxi", {{0, 2}}}));
   AnswerAndRevert(test);
   EXPECT_EQ(test.desktop.shown, (Shown{"yesno: E098", "information: E099"}));
   EXPECT_EQ(RecordsOf(test.vars.Colors), RecordsOf(test.vars.Kopie_Colors));
   EXPECT_EQ(test.vars.Colors.At(1), (ColorEntry{1, 10, 20, 30, "sea"}));
-  EXPECT_EQ(test.vars.CarColors.At(0), (CarColorEntry{"taxi", {1}, {2}}));
-  EXPECT_EQ(test.vars.CarColors.At(1), (CarColorEntry{"bus", {2, 0}, {1, 1}}));
+  EXPECT_EQ(test.vars.CarColors.At(0), (CarColorEntry{"taxi", {{1, 2}}}));
+  EXPECT_EQ(test.vars.CarColors.At(1), (CarColorEntry{"bus", {{2, 1}, {0, 1}}}));
   EXPECT_EQ(test.main.lstColors.Rows(), (Rows{"black - 0,0,0", "sea - 10,20,30", "red - 255,0,0"}));
   EXPECT_EQ(test.main.lstColors.Row(), -1);
   EXPECT_EQ(test.main.cmbAutos.Rows(), (Rows{"bus", "taxi"}));
@@ -316,7 +315,7 @@ TEST(RevertToSnapshot, AColorDeletedAndSavedStaysGone) {
   AnswerAndRevert(test);
   EXPECT_EQ(test.main.lstColors.Rows(), (Rows{"black - 0,0,0", "red - 255,0,0"}));
   EXPECT_EQ(test.vars.Colors.At(1), (ColorEntry{2, 255, 0, 0, "red"}));
-  EXPECT_EQ(test.vars.CarColors.At(0), (CarColorEntry{"taxi", {0}, {2}}));
+  EXPECT_EQ(test.vars.CarColors.At(0), (CarColorEntry{"taxi", {{0, 2}}}));
 }
 
 TEST(RevertToSnapshot, LaterPairsDontReachTheSnapshot) {
@@ -324,8 +323,8 @@ TEST(RevertToSnapshot, LaterPairsDontReachTheSnapshot) {
   test.OpenColors(kPalette);
   AnswerAndRevert(test);
   test.main.cmdAddColor.ClickByHand();
-  EXPECT_EQ(test.vars.CarColors.At(1).Color1, (Numbers{2, 0, 0}));
-  EXPECT_EQ(test.vars.Kopie_CarColors.At(1), (CarColorEntry{"bus", {2, 0}, {1, 1}}));
+  EXPECT_EQ(test.vars.CarColors.At(1), (CarColorEntry{"bus", {{2, 1}, {0, 1}, {0, 0}}}));
+  EXPECT_EQ(test.vars.Kopie_CarColors.At(1), (CarColorEntry{"bus", {{2, 1}, {0, 1}}}));
 }
 
 TEST(RevertToSnapshot, WithoutASnapshotShowsTheFailureAndListsNothing) {

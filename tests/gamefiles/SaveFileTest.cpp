@@ -116,11 +116,11 @@ TEST_F(SaveFileTest, OnlyTheTablesOfTheOpenKindGoOverTheirSnapshots) {
   EXPECT_EQ(MassInSnapshot(), "1500.0");
   test.OpenColors(kColors);
   test.vars.Colors.At(0).Red = 77;
-  test.vars.CarColors.At(0).Color1 = {5};
+  test.vars.CarColors.At(0).Pairs = {{5, 6}};
   test.vars.Ides.At(0).TXDName = "third";
   Save();
   EXPECT_EQ(test.vars.Kopie_Colors.At(0).Red, 77);
-  EXPECT_EQ(test.vars.Kopie_CarColors.At(0).Color1, std::vector<std::int16_t>{5});
+  EXPECT_EQ(test.vars.Kopie_CarColors.At(0).Pairs, (std::vector<ColorPair>{{5, 6}}));
   EXPECT_EQ(test.vars.Kopie_Ides.At(0).TXDName, "other");
 }
 

@@ -54,13 +54,11 @@ void FirstPass(const std::vector<std::string>& lines, PlainColors& read) {
 
 void TakePairs(std::string line, CarColorEntry& entry) {
   const std::size_t count = SplitAtCommas(line).size();
-  entry.Color1.resize(1);
-  entry.Color2.resize(1);
+  entry.Pairs.resize(1);
   for (std::size_t i = 0; i + 2 <= count; i += 2) {
-    entry.Color1.resize(i / 2 + 1);
-    entry.Color2.resize(i / 2 + 1);
-    entry.Color1[i / 2] = ToInteger16(TakeCommaField(line, i + 1));
-    entry.Color2[i / 2] = ToInteger16(TakeCommaField(line, i + 2));
+    entry.Pairs.resize(i / 2 + 1);
+    entry.Pairs[i / 2].Color1 = ToInteger16(TakeCommaField(line, i + 1));
+    entry.Pairs[i / 2].Color2 = ToInteger16(TakeCommaField(line, i + 2));
   }
 }
 
@@ -94,8 +92,8 @@ std::string LineOf(const ColorEntry& color) {
 
 std::string LineOf(const CarColorEntry& entry) {
   std::string line = entry.ModelName;
-  for (std::size_t pair = 0; pair < entry.Color1.size(); ++pair) {
-    line += ", " + std::to_string(entry.Color1[pair]) + ", " + std::to_string(entry.Color2[pair]);
+  for (const auto& [first, second] : entry.Pairs) {
+    line += ", " + std::to_string(first) + ", " + std::to_string(second);
   }
   return line + "\r\n";
 }
@@ -137,9 +135,9 @@ std::vector<std::string> ShowPairsPlainly(const std::vector<ColorEntry>& colors,
   std::vector<std::string> rows;
   std::string first;
   std::string second;
-  for (std::size_t pair = 0; pair < entry.Color1.size(); ++pair) {
-    ShowNumber(colors, entry.Color1[pair], first);
-    ShowNumber(colors, entry.Color2[pair], second);
+  for (ColorPair& pair : entry.Pairs) {
+    ShowNumber(colors, pair.Color1, first);
+    ShowNumber(colors, pair.Color2, second);
     rows.push_back(first + " - " + second);
   }
   return rows;

@@ -118,8 +118,7 @@ std::vector<CarColorEntry> OddPairs(Dice& dice) {
     CarColorEntry& entry = entries.emplace_back();
     entry.ModelName = OddField(dice);
     for (int left = dice.Below(4); left > 0; --left) {
-      entry.Color1.push_back(OddInteger(dice));
-      entry.Color2.push_back(OddInteger(dice));
+      entry.Pairs.push_back({OddInteger(dice), OddInteger(dice)});
     }
   } while (dice.OneIn(2));
   return entries;

@@ -105,11 +105,9 @@ void PaletteModel::DeleteColor() {
     return;
   }
   for (CarColorEntry& entry : carColors_) {
-    for (std::int16_t& number : entry.Color1) {
-      if (number == ColorAt(colorRow_).Index) number = 0;
-    }
-    for (std::int16_t& number : entry.Color2) {
-      if (number == ColorAt(colorRow_).Index) number = 0;
+    for (auto& [first, second] : entry.Pairs) {
+      if (first == ColorAt(colorRow_).Index) first = 0;
+      if (second == ColorAt(colorRow_).Index) second = 0;
     }
   }
   colors_.erase(colors_.begin() + colorRow_);
@@ -142,14 +140,13 @@ void PaletteModel::ChooseSecond(int row) {
 
 void PaletteModel::ClickPair(int row) {
   pairRow_ = row;
-  CheckPosition(row, Current().Color1.size(), FailureNumber::SubscriptOutOfRange);
-  ChooseFirst(Current().Color1[static_cast<std::size_t>(row)]);
-  ChooseSecond(Current().Color2[static_cast<std::size_t>(row)]);
+  CheckPosition(row, Current().Pairs.size(), FailureNumber::SubscriptOutOfRange);
+  ChooseFirst(Current().Pairs[static_cast<std::size_t>(row)].Color1);
+  ChooseSecond(Current().Pairs[static_cast<std::size_t>(row)].Color2);
 }
 
 void PaletteModel::AddPair() {
-  Current().Color1.push_back(static_cast<std::int16_t>(firstRow_));
-  Current().Color2.push_back(static_cast<std::int16_t>(secondRow_));
+  Current().Pairs.push_back({static_cast<std::int16_t>(firstRow_), static_cast<std::int16_t>(secondRow_)});
   pairRows.push_back(ColorAt(firstRow_).ColorName + " - " + ColorAt(secondRow_).ColorName);
   isSaved_ = false;
 }
@@ -158,22 +155,19 @@ void PaletteModel::RemovePair() {
   if (pairRows.empty() || pairRow_ == -1) return;
   shown_.push_back("question: E153");
   const std::string text = FoldedCase(pairRows[static_cast<std::size_t>(pairRow_)]);
-  std::vector<std::int16_t>& firsts = Current().Color1;
-  std::vector<std::int16_t>& seconds = Current().Color2;
+  std::vector<ColorPair>& pairs = Current().Pairs;
   int a = -1;
   int b = -1;
-  for (int i = 0; i < static_cast<int>(firsts.size()); ++i) {
+  for (int i = 0; i < static_cast<int>(pairs.size()); ++i) {
     for (std::size_t color = 0; color < colors_.size(); ++color) {
-      const bool bears = colors_[color].Index == firsts[static_cast<std::size_t>(i)];
+      const bool bears = colors_[color].Index == pairs[static_cast<std::size_t>(i)].Color1;
       if (bears) b = static_cast<int>(color);
     }
     if (text.find(FoldedCase(ColorAt(b).ColorName)) != std::string::npos) a = i;
   }
   if (a == -1 || b == -1) return;
-  firsts.erase(firsts.begin() + a);
-  seconds.erase(seconds.begin() + a);
-  if (firsts.empty()) firsts.resize(1);
-  if (seconds.empty()) seconds.resize(1);
+  pairs.erase(pairs.begin() + a);
+  if (pairs.empty()) pairs.resize(1);
   CheckPosition(a, pairRows.size(), FailureNumber::InvalidCall);
   pairRows.erase(pairRows.begin() + a);
   pairRow_ = a == pairRow_ ? -1 : pairRow_ - (a < pairRow_ ? 1 : 0);

@@ -27,8 +27,8 @@ std::string TextOf(const ColorEntry& entry) {
 
 std::string TextOf(const CarColorEntry& entry) {
   std::string text = entry.ModelName;
-  for (std::size_t pair = 0; pair < entry.Color1.size(); ++pair) {
-    text += " " + std::to_string(entry.Color1[pair]) + "," + std::to_string(entry.Color2.at(pair));
+  for (const auto& [first, second] : entry.Pairs) {
+    text += " " + std::to_string(first) + "," + std::to_string(second);
   }
   return text;
 }

@@ -33,7 +33,13 @@ Json FieldsOf(const ColorEntry& color) {
 }
 
 Json FieldsOf(const CarColorEntry& entry) {
-  return {{"ModelName", ToUnicode(entry.ModelName)}, {"Color1", entry.Color1}, {"Color2", entry.Color2}};
+  Json first = Json::array();
+  Json second = Json::array();
+  for (const ColorPair& pair : entry.Pairs) {
+    first.push_back(pair.Color1);
+    second.push_back(pair.Color2);
+  }
+  return {{"ModelName", ToUnicode(entry.ModelName)}, {"Color1", first}, {"Color2", second}};
 }
 
 template <class Record>
