@@ -60,6 +60,7 @@ void PaletteModel::ShowChosenColor() {
   for (std::size_t bar = 0; bar < 3; ++bar) {
     const std::int16_t component = ColorAt(colorRow_).*kComponents[bar];
     MoveBar(bar, component);
+    if (ColorAt(colorRow_).*kComponents[bar] == component) continue;
     ColorAt(colorRow_).*kComponents[bar] = component;
     Relabel();
   }
