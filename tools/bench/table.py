@@ -16,27 +16,36 @@ ROUNDS = 15
 KINDS = {"handling": "handling.cfg", "definition": "default.ide", "colour": "carcols.dat"}
 FILTERS = {"handling": 1, "definition": 2, "colour": 3}
 VEHICLES = 32000
-FIRST_LIMITS = {"handling": {"open": 2, "save": 0.9}, "definition": {"open": 1.5, "save": 0.6},
-                "colour": {"open": 1.3, "save": 0.8}}
-AGAIN_LIMITS = {("handling", "open"): 1.6, ("handling", "save"): 0.6}
+ACTIONS = ("first open", "first save", "open again", "save again")
+LIMITS = {("first open", "handling"): 2, ("first save", "handling"): 0.9,
+          ("open again", "handling"): 1.6, ("save again", "handling"): 0.6,
+          ("first open", "definition"): 1.5, ("first save", "definition"): 0.6,
+          ("first open", "colour"): 1.3, ("first save", "colour"): 0.8}
 HERE = Path(__file__).parent
 
 build, folder = Path(sys.argv[1]).resolve(), Path(sys.argv[2])
 
 
 def run(command, **options):
-    """Wall time in ms, peak memory in MB and output of a command."""
+    """Wall time in ms, peak memory in MB and the end of the output of a command. A child begins with the
+    memory of this process, which therefore keeps no more."""
     start = time.perf_counter()
     child = subprocess.Popen(command, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, **options)
     output = child.stdout.read()
     _, status, usage = os.wait4(child.pid, 0)
     if status != 0:
         raise SystemExit(f"{command} failed")
-    return (time.perf_counter() - start) * 1e3, usage.ru_maxrss / 1024, output
+    return (time.perf_counter() - start) * 1e3, usage.ru_maxrss / 1024, output[-100:]
 
 
-def median_ms(command):
-    return statistics.median(run(command)[0] for _ in range(ROUNDS))
+def rounds_of(commands):
+    """What each of the named commands gives in every round. They take turns, so that a machine that gets
+    slower or faster meanwhile does so for all of them."""
+    rounds = {name: [] for name in commands}
+    for _ in range(ROUNDS):
+        for name, command in commands.items():
+            rounds[name].append(run(command))
+    return rounds
 
 
 def data_file(kind, vehicles=VEHICLES):
@@ -46,15 +55,21 @@ def data_file(kind, vehicles=VEHICLES):
     return path
 
 
-def first_times():
-    """Median times in ms of the first action of a process, by "kind/action/vehicles"."""
-    times = {}
-    for kind in KINDS:
-        for vehicles in (4000, VEHICLES):
-            command = [build / "wheelwright-bench-first", kind, data_file(kind, vehicles), build]
-            rounds = [[float(word) for word in run(command)[2].split()] for _ in range(ROUNDS)]
-            for action, taken in zip(("open", "save"), zip(*rounds)):
-                times[f"{kind}/{action}/{vehicles}"] = statistics.median(taken)
+def file_times():
+    """Median times in ms of what a process does first and again, by "first open/kind/vehicles", and of
+    what they are compared with, by "`wc -w`/kind"."""
+    programs = {f"{kind}/{vehicles}": [build / "wheelwright-bench-first", kind, data_file(kind, vehicles), build]
+                for kind in KINDS for vehicles in (4000, VEHICLES)}
+    others = {f"`wc -w`/{kind}": ["wc", "-w", data_file(kind)] for kind in KINDS}
+    others["`cat`"] = ["cat", data_file("handling")]
+    for script in ("normalise", "normalise-terse"):
+        others[f"mawk, {script}.awk"] = ["mawk", "-f", HERE / f"{script}.awk", data_file("handling")]
+    rounds = rounds_of(programs | others)
+    times = {name: statistics.median(took for took, _, _ in rounds[name]) for name in others}
+    for name in programs:
+        outputs = [[float(word) for word in output.split()] for _, _, output in rounds[name]]
+        for action, taken in zip(ACTIONS, zip(*outputs)):
+            times[f"{action}/{name}"] = statistics.median(taken)
     return times
 
 
@@ -64,6 +79,7 @@ def google_benchmarks():
     environment = dict(os.environ, QT_QPA_PLATFORM="offscreen")
     run([build / "wheelwright-bench", build, folder, f"--benchmark_out={out}",
          "--benchmark_out_format=json", "--benchmark_repetitions=7", "--benchmark_min_time=0.05",
+         "--benchmark_enable_random_interleaving=true",
          "--benchmark_report_aggregates_only=true"], env=environment)
     return {entry["run_name"]: entry["real_time"] / 1e3
             for entry in json.loads(out.read_text())["benchmarks"]
@@ -81,11 +97,12 @@ def peak_memory(kind, *options):
                    env=dict(os.environ, QT_QPA_PLATFORM="offscreen"))[1]
 
 
-def start_up(program):
-    """Median time in ms and resident memory in MB of a program that ends when it is idle."""
-    rounds = [run([build / program]) for _ in range(ROUNDS)]
-    resident = [int(output.split()[-2]) / 1024 for _, _, output in rounds]
-    return statistics.median(t for t, _, _ in rounds), statistics.median(resident)
+def start_ups(*programs):
+    """Median time in ms and resident memory in MB of each program, which ends when it is idle."""
+    rounds = rounds_of({program: [build / program] for program in programs})
+    return [(statistics.median(took for took, _, _ in rounds[program]),
+             statistics.median(int(output.split()[-2]) / 1024 for _, _, output in rounds[program]))
+            for program in programs]
 
 
 def with_display(measure):
@@ -110,28 +127,23 @@ def row(what, value, beside, limit=None, unit="ms"):
           f"| {beside[1]:.3g} {unit} | {ratio:.2f} | {target} | {verdict} |")
 
 
-def file_rows(first, times):
-    for kind, limits in FIRST_LIMITS.items():
-        words = ("`wc -w`", median_ms(["wc", "-w", data_file(kind)]))
-        for action, limit in limits.items():
-            row(f"first {action}, {kind}", first[f"{kind}/{action}/{VEHICLES}"], words, limit)
-            again = times[f"plain/{kind}/{action}/{VEHICLES}"]
-            row(f"{action} again, {kind}", again, words, AGAIN_LIMITS.get((kind, action)))
-    both = sum(first[f"handling/{action}/{VEHICLES}"] for action in ("open", "save"))
-    for script in ("normalise", "normalise-terse"):
-        command = ["mawk", "-f", HERE / f"{script}.awk", data_file("handling")]
-        row("first open and save, handling", both, (f"mawk, {script}.awk", median_ms(command)), 0.35)
-    row("first open, handling", first[f"handling/open/{VEHICLES}"],
-        ("`cat`", median_ms(["cat", data_file("handling")])))
-
-
-def growth_rows(first, times):
+def file_rows(times):
     for kind in KINDS:
-        for action in ("open", "save"):
-            key = f"{kind}/{action}/"
-            row(f"first {action}, {kind}, 32,000", first[f"{key}{VEHICLES}"], ("4,000", first[key + "4000"]), 9)
-            again = times[f"plain/{key}{VEHICLES}"]
-            row(f"{action} again, {kind}, 32,000", again, ("4,000", times[f"plain/{key}4000"]), 9)
+        words = ("`wc -w`", times[f"`wc -w`/{kind}"])
+        for action in ACTIONS:
+            row(f"{action}, {kind}", times[f"{action}/{kind}/{VEHICLES}"], words, LIMITS.get((action, kind)))
+    first_open = times[f"first open/handling/{VEHICLES}"]
+    both = first_open + times[f"first save/handling/{VEHICLES}"]
+    for script in ("mawk, normalise.awk", "mawk, normalise-terse.awk"):
+        row("first open and save, handling", both, (script, times[script]), 0.35)
+    row("first open, handling", first_open, ("`cat`", times["`cat`"]))
+    for kind in KINDS:
+        for action in ACTIONS:
+            row(f"{action}, {kind}, 32,000", times[f"{action}/{kind}/{VEHICLES}"],
+                ("4,000", times[f"{action}/{kind}/4000"]), 9)
+
+
+def action_rows(times):
     for kind in KINDS:
         row(f"open, {kind}, real windows", times[f"widgets/{kind}/open/32000"],
             ("plain", times[f"plain/{kind}/open/32000"]), 1.5)
@@ -144,8 +156,7 @@ def growth_rows(first, times):
 
 
 def program_rows():
-    editor, window = with_display(
-        lambda: (start_up("wheelwright-bench-editor"), start_up("wheelwright-bench-window")))
+    editor, window = with_display(lambda: start_ups("wheelwright-bench-editor", "wheelwright-bench-window"))
     row("start to the idle window", editor[0], ("window with a label", window[0]), 1.5)
     row("resident when idle", editor[1], ("window with a label", window[1]), 1.2, "MB")
     size = data_file("handling").stat().st_size / 2**20
@@ -154,11 +165,11 @@ def program_rows():
 
 
 def main():
-    first, times = first_times(), google_benchmarks()
+    files, actions = file_times(), google_benchmarks()
     print("| What | Took | Beside | That took | Ratio | Target | |")
     print("| --- | --- | --- | --- | --- | --- | --- |")
-    file_rows(first, times)
-    growth_rows(first, times)
+    file_rows(files)
+    action_rows(actions)
     program_rows()
 
 
