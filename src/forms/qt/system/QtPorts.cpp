@@ -25,6 +25,8 @@ QMessageBox::StandardButton ShowBox(QMessageBox::Icon icon, const std::string& t
   QMessageBox box(icon, QCoreApplication::applicationName(), "", buttons, WindowInUse());
   box.setTextFormat(Qt::PlainText);
   box.setText(ShownMessage(text));
+  // Of a question; what it asks for loses something.
+  box.setDefaultButton(QMessageBox::No);
   return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 

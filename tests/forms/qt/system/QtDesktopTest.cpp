@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QUrl>
+#include <QtTest/QTest>
 
 namespace wheelwright::testing {
 namespace {
@@ -59,6 +60,20 @@ TEST(QtDesktopTest, AQuestionIsTrueForYesAlone) {
   }
   const BoxHand hand(QMessageBox::NoIcon, kOddTextShown, QMessageBox::Escape);
   EXPECT_FALSE(desktop.AskYesNo(kOddText));
+}
+
+// Neither loses what a yes would lose.
+TEST(QtDesktopTest, EnterAndEscapeAnswerEveryQuestionWithNo) {
+  QtDesktop desktop;
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape}) {
+    const auto press = [key](QWidget& box) { QTest::keyClick(box.windowHandle(), key); };
+    {
+      const ModalHand hand(press);
+      EXPECT_FALSE(desktop.AskQuestion(kOddText));
+    }
+    const ModalHand hand(press);
+    EXPECT_FALSE(desktop.AskYesNo(kOddText));
+  }
 }
 
 TEST(QtDesktopTest, WithoutAnActiveWindowABoxBelongsToTheOneThatOwnsTheOthersIfItIsShown) {
