@@ -41,6 +41,7 @@ class RoomCheck {
   explicit RoomCheck(const std::vector<std::string>& entries) : entries_(entries), screen_(unread_) {
     screen_.windows.Of(Main()).setUpdatesEnabled(false);  // nothing looks at what is painted
     screen_.windows.Of(Main()).show();
+    screen_.windows.Of(screen_.stage.session.error).show();  // whose last column fills it
   }
 
   std::vector<Fault> Faults() {

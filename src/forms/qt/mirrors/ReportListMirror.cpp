@@ -5,12 +5,16 @@
 #include <array>
 
 #include <QAbstractTableModel>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QHeaderView>
+#include <QKeyEvent>
 
 namespace wheelwright {
 namespace {
 
-constexpr std::array<int, ReportList::kColumns> kColumnWidths = {100, 160, 303};
+// Of all columns but the last.
+constexpr std::array kColumnWidths = {100, 160};
 
 // A cell as it is read on screen. The second column holds captions of fields, whose marks go.
 QString CellText(const ReportList::Row& row, std::size_t column) {
@@ -22,7 +26,8 @@ QString CellText(const ReportList::Row& row, std::size_t column) {
 // The rows of a list in report form, read straight from the plain list.
 class ReportModel : public QAbstractTableModel {
  public:
-  ReportModel(const ReportList& list, QObject* parent) : QAbstractTableModel(parent), list_(list) {}
+  ReportModel(const ReportList& list, QTreeView* view)
+      : QAbstractTableModel(view), list_(list), view_(*view) {}
 
   int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : known_; }
 
@@ -33,8 +38,10 @@ class ReportModel : public QAbstractTableModel {
   QVariant data(const QModelIndex& index, int role) const override {
     // An index of nothing has the row -1, which lies behind all others.
     const auto row = static_cast<std::size_t>(index.row());
-    if (role != Qt::DisplayRole || row >= list_.Rows().size()) return {};
-    return CellText(list_.Rows()[row], static_cast<std::size_t>(index.column()));
+    const bool isTip = role == Qt::ToolTipRole && IsCutOff(index);
+    if (row >= list_.Rows().size() || (role != Qt::DisplayRole && !isTip)) return {};
+    const QString text = CellText(list_.Rows()[row], static_cast<std::size_t>(index.column()));
+    return isTip ? Qt::convertFromPlainText(text) : text;
   }
 
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
@@ -59,12 +66,17 @@ class ReportModel : public QAbstractTableModel {
   void HeadersChanged() { Q_EMIT headerDataChanged(Qt::Horizontal, 0, columnCount() - 1); }
 
  private:
+  bool IsCutOff(const QModelIndex& index) const {
+    return view_.sizeHintForIndex(index).width() > view_.columnWidth(index.column());
+  }
+
   const ReportList& list_;
+  const QTreeView& view_;
   // The rows that the views know of.
   int known_ = 0;
 };
 
-// The last column gives way to a vertical scroll bar, so that no horizontal one is needed.
+// The last column fills what the others leave, so that no horizontal scroll bar is needed.
 class ReportView : public QTreeView {
  public:
   ReportView(const ReportList& list, QWidget* parent)
@@ -75,7 +87,6 @@ class ReportView : public QTreeView {
     setUniformRowHeights(true);
     setEditTriggers(NoEditTriggers);
     setSelectionMode(ExtendedSelection);
-    header()->setStretchLastSection(false);
     for (std::size_t column = 0; column < kColumnWidths.size(); ++column) {
       header()->resizeSection(static_cast<int>(column), kColumnWidths[column]);
     }
@@ -89,9 +100,12 @@ class ReportView : public QTreeView {
   }
 
  protected:
-  void resizeEvent(QResizeEvent* event) override {
-    QTreeView::resizeEvent(event);
-    FitLast();
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->matches(QKeySequence::Copy)) {
+      CopyRows();
+    } else {
+      QTreeView::keyPressEvent(event);
+    }
   }
 
  private:
@@ -101,13 +115,21 @@ class ReportView : public QTreeView {
       const int needed = header()->sectionSizeHint(column);
       if (header()->sectionSize(column) < needed) header()->resizeSection(column, needed);
     }
-    FitLast();
   }
 
-  void FitLast() {
-    const int last = header()->count() - 1;
-    const int room = viewport()->width() - header()->sectionPosition(last);
-    header()->resizeSection(last, std::min(room, kColumnWidths.back()));
+  // The toolkit would copy one cell.
+  void CopyRows() const {
+    QModelIndexList rows = selectionModel()->selectedRows();
+    std::sort(rows.begin(), rows.end());
+    QStringList lines;
+    for (const QModelIndex& row : rows) {
+      QStringList cells;
+      for (int column = 0; column < model_.columnCount(); ++column) {
+        cells += row.siblingAtColumn(column).data().toString();
+      }
+      lines += cells.join('\t') + '\n';
+    }
+    if (!lines.isEmpty()) QGuiApplication::clipboard()->setText(lines.join(""));
   }
 
   ReportModel& model_;

@@ -2,9 +2,13 @@
 #include "forms/qt/MirrorBench.h"
 #include "forms/qt/Settle.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QScrollBar>
+#include <QTextDocumentFragment>
 #include <QTreeView>
+#include <QtTest/QTest>
 
 namespace wheelwright::testing {
 namespace {
@@ -63,11 +67,47 @@ TEST_F(ReportListMirrorTest, HeadersFollowWithoutTheirMarks) {
   EXPECT_EQ(Difference(report), "");
 }
 
-TEST_F(ReportListMirrorTest, ColumnsHaveTheirWidths) {
-  EXPECT_EQ(Widths(), (std::array<int, 3>{100, 160, 303}));
-  AddRows(3);
-  EXPECT_EQ(Widths(), (std::array<int, 3>{100, 160, 303}));
+TEST_F(ReportListMirrorTest, ColumnsHaveTheirWidthsAndTheLastOneFills) {
+  EXPECT_EQ(Widths(), (std::array<int, 3>{100, 160, view.viewport()->width() - 260}));
+  view.setFixedWidth(900);
+  Settle();
+  EXPECT_EQ(Widths(), (std::array<int, 3>{100, 160, view.viewport()->width() - 260}));
   EXPECT_FALSE(view.horizontalScrollBar()->isVisible());
+}
+
+TEST_F(ReportListMirrorTest, ATextThatIsCutOffHasAToolTipThatIsNoMarkup) {
+  report.AddRow({"<b>bus</b> & the longest name of a vehicle", "", "x"});
+  const auto tip = [this](int column) {
+    return view.model()->index(0, column).data(Qt::ToolTipRole).toString();
+  };
+  EXPECT_EQ(QTextDocumentFragment::fromHtml(tip(0)).toPlainText(), Cell(0, 0));
+  EXPECT_TRUE(Qt::mightBeRichText(tip(0))) << "or else the toolkit would guess";
+  EXPECT_EQ(tip(2), "");
+  view.setColumnWidth(0, 400);
+  EXPECT_EQ(tip(0), "");
+}
+
+TEST_F(ReportListMirrorTest, WholeRowsAreCopiedAsTheyAreRead) {
+  AddRows(1);
+  report.AddRow({"TAXI", "", "Wrong number"});
+  report.AddRow({"VAN", "x", "y"});
+  view.setFocus();
+  QTest::keyClick(&view, Qt::Key_A, Qt::ControlModifier);
+  QTest::keyClick(&view, Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QGuiApplication::clipboard()->text(),
+            "BUS\tMass\tMust be a number\nTAXI\t\tWrong number\nVAN\tx\ty\n");
+  const auto click = [this](int row, Qt::KeyboardModifier modifier) {
+    const QRect place = view.visualRect(view.model()->index(row, 1));
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, modifier, place.center());
+  };
+  click(2, Qt::NoModifier);
+  click(0, Qt::ControlModifier);
+  QTest::keyClick(&view, Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), "BUS\tMass\tMust be a number\nVAN\tx\ty\n");
+  click(1, Qt::NoModifier);
+  click(1, Qt::ControlModifier);
+  QTest::keyClick(&view, Qt::Key_C, Qt::ControlModifier);
+  EXPECT_TRUE(QGuiApplication::clipboard()->text().endsWith("VAN\tx\ty\n")) << "nothing was marked";
 }
 
 TEST_F(ReportListMirrorTest, AColumnIsAtLeastAsWideAsItsHeader) {
@@ -87,7 +127,7 @@ TEST_F(ReportListMirrorTest, TheLastColumnMakesRoomForAVerticalScrollBar) {
   EXPECT_EQ(view.header()->length(), view.viewport()->width());
   report.Clear();
   Settle();
-  EXPECT_EQ(Widths(), (std::array<int, 3>{100, 160, 303}));
+  EXPECT_EQ(view.header()->length(), view.viewport()->width());
 }
 
 TEST_F(ReportListMirrorTest, ARowThatJoinsKeepsThePlace) {
