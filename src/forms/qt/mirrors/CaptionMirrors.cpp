@@ -1,10 +1,12 @@
 #include "forms/qt/mirrors/CaptionMirrors.h"
 
+#include "forms/qt/widgets/Inputs.h"
 #include "forms/qt/widgets/ShownText.h"
 #include "screen/MainWindow.h"
 
 #include <QEvent>
 #include <QSignalBlocker>
+#include <QTabBar>
 
 namespace wheelwright {
 namespace {
@@ -97,6 +99,8 @@ TabGroupMirror::TabGroupMirror(TabGroup& group, EventEdge& edge, QWidget* parent
     : MirrorOf(group, edge, *new QTabWidget(parent)), spoken_(group.Tabs().size()) {
   widget_.setUsesScrollButtons(false);
   for (std::size_t tab = 0; tab < spoken_.size(); ++tab) widget_.addTab(new QWidget, "");
+  new WheelGuard(*widget_.tabBar());
+  new FocusRing(*widget_.tabBar());
   FollowAll();
   QObject::connect(&widget_, &QTabWidget::currentChanged, Receiver(), [this](int tab) {
     ByHand([&] { plain_.ClickByHand(tab); });

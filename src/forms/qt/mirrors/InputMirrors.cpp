@@ -92,7 +92,7 @@ void CheckBoxMirror::FollowContent() {
 }
 
 ScrollBarMirror::ScrollBarMirror(ScrollBar& bar, EventEdge& edge, QWidget* parent)
-    : MirrorOf(bar, edge, *new FocusedScrollBar(parent)) {
+    : MirrorOf(bar, edge, *new ValueBar(parent)) {
   constexpr int kPage = 16;
   widget_.setRange(ScrollBar::kMinimum, ScrollBar::kMaximum);
   widget_.setPageStep(kPage);

@@ -1,4 +1,5 @@
 #include "forms/qt/mirrors/ListMirrors.h"
+#include "forms/qt/widgets/Inputs.h"
 #include "forms/qt/widgets/ShownText.h"
 
 #include <algorithm>
@@ -87,6 +88,7 @@ class ReportView : public QTreeView {
     setUniformRowHeights(true);
     setEditTriggers(NoEditTriggers);
     setSelectionMode(ExtendedSelection);
+    new FocusRing(*this);
     for (std::size_t column = 0; column < kColumnWidths.size(); ++column) {
       header()->resizeSection(static_cast<int>(column), kColumnWidths[column]);
     }

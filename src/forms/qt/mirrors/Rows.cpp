@@ -1,5 +1,6 @@
 #include "forms/qt/mirrors/Rows.h"
 
+#include "forms/qt/widgets/Inputs.h"
 #include "forms/qt/widgets/ShownText.h"
 #include "forms/qt/widgets/Swatches.h"
 
@@ -49,6 +50,7 @@ RowView::RowView(QAbstractItemView::SelectionMode mode, QWidget* parent) : QList
   setSelectionMode(mode);
   setEditTriggers(NoEditTriggers);
   setUniformItemSizes(true);
+  new FocusRing(*this);
 }
 
 std::vector<int> RowView::SelectedRows() const {

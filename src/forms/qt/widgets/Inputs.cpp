@@ -1,49 +1,46 @@
 #include "forms/qt/widgets/Inputs.h"
 
-#include <QKeyEvent>
+#include <QEvent>
 #include <QListView>
 #include <QPainter>
-#include <QStyleOptionFocusRect>
 #include <QStyledItemDelegate>
 
 namespace wheelwright {
-namespace {
 
-// Keeps the mouse wheel from changing an input that merely lies under the pointer.
-class WheelGuard : public QObject {
- public:
-  explicit WheelGuard(QWidget& input) : QObject(&input) {
-    input.setFocusPolicy(Qt::StrongFocus);
-    input.installEventFilter(this);
-  }
+WheelGuard::WheelGuard(QWidget& input) : QObject(&input) { input.installEventFilter(this); }
 
- protected:
-  bool eventFilter(QObject* input, QEvent* event) override {
-    if (event->type() != QEvent::Wheel || static_cast<QWidget*>(input)->hasFocus()) return false;
-    event->ignore();
-    return true;
-  }
-};
-
-}  // namespace
-
-FocusedScrollBar::FocusedScrollBar(QWidget* parent) : QScrollBar(Qt::Horizontal, parent) {
-  new WheelGuard(*this);
+bool WheelGuard::eventFilter(QObject* /*input*/, QEvent* event) {
+  if (event->type() != QEvent::Wheel) return false;
+  event->ignore();
+  return true;
 }
 
-void FocusedScrollBar::keyPressEvent(QKeyEvent* event) {
-  setInvertedControls(event->key() != Qt::Key_Left && event->key() != Qt::Key_Right);
-  QScrollBar::keyPressEvent(event);
-  setInvertedControls(true);
+FocusRing::FocusRing(QWidget& input) : QFocusFrame(&input) {
+  hide();
+  input.installEventFilter(this);
 }
 
-void FocusedScrollBar::paintEvent(QPaintEvent* event) {
-  QScrollBar::paintEvent(event);
-  if (!hasFocus()) return;
-  QStyleOptionFocusRect option;
-  option.initFrom(this);
+bool FocusRing::eventFilter(QObject* /*input*/, QEvent* event) {
+  if (event->type() == QEvent::Resize) resize(parentWidget()->size());
+  if (event->type() == QEvent::FocusOut) hide();
+  if (event->type() != QEvent::FocusIn) return false;
+  raise();
+  show();
+  return false;
+}
+
+void FocusRing::paintEvent(QPaintEvent* /*event*/) {
+  constexpr int kWidth = 2;
   QPainter painter(this);
-  style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+  painter.setPen(QPen(palette().windowText(), kWidth));
+  painter.drawRect(rect().adjusted(kWidth / 2, kWidth / 2, -kWidth / 2, -kWidth / 2));
+}
+
+ValueBar::ValueBar(QWidget* parent) : QScrollBar(Qt::Horizontal, parent) {
+  setFocusPolicy(Qt::StrongFocus);
+  setInvertedControls(false);
+  new WheelGuard(*this);
+  new FocusRing(*this);
 }
 
 // A menu's delegate would read marks and tabs in the texts of rows.
@@ -56,7 +53,9 @@ PickBox::PickBox(QWidget* parent) : QComboBox(parent) {
   setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
   setMinimumContentsLength(kCharactersShown);
   static_cast<QListView*>(view())->setUniformItemSizes(true);
+  setFocusPolicy(Qt::StrongFocus);
   new WheelGuard(*this);
+  new FocusRing(*this);
 }
 
 int PickBox::ListDropDown::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

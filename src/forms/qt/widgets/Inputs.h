@@ -3,6 +3,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFocusFrame>
 #include <QProxyStyle>
 #include <QScrollBar>
 
@@ -16,20 +17,33 @@ class AskingCheckBox : public QCheckBox {
   void nextCheckState() override {}
 };
 
-// A scroll bar for the keyboard. The toolkit inverts all its keys, which is right for up and down
-// only; and no style shows focus on a scroll bar, as none of theirs takes it. The mouse wheel moves
-// it only while it has the focus.
-class FocusedScrollBar : public QScrollBar {
+// Keeps the mouse wheel from changing an input that lies under the pointer; what lies around it may
+// scroll instead.
+class WheelGuard : public QObject {
  public:
-  explicit FocusedScrollBar(QWidget* parent);
+  explicit WheelGuard(QWidget& input);
 
  protected:
-  void keyPressEvent(QKeyEvent* event) override;
+  bool eventFilter(QObject* input, QEvent* event) override;
+};
+
+// A frame along the edges of an input while it has the focus, where styles hardly show it.
+class FocusRing : public QFocusFrame {
+ public:
+  explicit FocusRing(QWidget& input);
+
+ protected:
+  bool eventFilter(QObject* input, QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 };
 
+// A scroll bar that a person sets a value with, by the same keys as a slider.
+class ValueBar : public QScrollBar {
+ public:
+  explicit ValueBar(QWidget* parent);
+};
+
 // A combo box that drops down as a list with a scroll bar in every style, also for very many rows.
-// The mouse wheel turns it only while it has the focus.
 class PickBox : public QComboBox {
  public:
   explicit PickBox(QWidget* parent);

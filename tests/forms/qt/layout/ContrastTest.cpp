@@ -15,6 +15,8 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
+#include <QTabBar>
+#include <QTabWidget>
 
 namespace wheelwright::testing {
 namespace {
@@ -140,6 +142,56 @@ TEST_F(SwatchContrastTest, APictureHasThePlainBackgroundOfTheWindow) {
     const QRect spot(frame.mapTo(frame.window(), place), QSize(1, 1));
     EXPECT_EQ(frame.window()->grab(spot).toImage().pixel(0, 0), window);
   }
+}
+
+class FocusContrastTest : public RealWindows {
+ protected:
+  // How many dots of the widget look plainly otherwise once it has the focus.
+  static int DotsOfFocus(QWidget& widget) {
+    const auto painted = [&widget] {
+      Settle();
+      const QRect place(widget.mapTo(widget.window(), QPoint()), widget.size());
+      return widget.window()->grab(place).toImage();
+    };
+    widget.clearFocus();
+    const QImage before = painted();
+    widget.setFocus();
+    const QImage after = painted();
+    int dots = 0;
+    for (int y = 0; y < after.height(); ++y) {
+      for (int x = 0; x < after.width(); ++x)
+        dots += Contrast(before.pixel(x, y), after.pixel(x, y)) >= kVisible;
+    }
+    return dots;
+  }
+
+  // Of all four sides of each.
+  void ExpectFocusIsSeen(Window& window, const std::vector<Control*>& controls) {
+    window.SetVisible(true);
+    Activate(window);
+    for (const Control* control : controls) {
+      auto* group = qobject_cast<QTabWidget*>(&windows.Of(*control));
+      QWidget& widget = group == nullptr ? windows.Of(*control) : *group->tabBar();
+      EXPECT_GE(DotsOfFocus(widget), 2 * widget.width()) << control->Name();
+    }
+  }
+
+  void ExpectFocusIsSeenEverywhere() {
+    test.OpenColors(kColors);
+    ExpectFocusIsSeen(main,
+                      {&main.cmbSprache, &main.cmbAutos, &main.SSTab3, &main.lstColors, &main.HScroll1});
+    main.SSTab3.ClickByHand(kPairsTab);
+    ExpectFocusIsSeen(main, {&main.lstCarColors, &main.cmbColor1});
+    ExpectFocusIsSeen(test.exporter, {&test.exporter.lst1, &test.exporter.lst2});
+    ExpectFocusIsSeen(test.error, {&test.error.lstErrors});
+  }
+};
+
+TEST_F(FocusContrastTest, ListsBarsAndTabsShowItOnTheSystemsOwnDesktop) { ExpectFocusIsSeenEverywhere(); }
+
+TEST_F(FocusContrastTest, ListsBarsAndTabsShowItOnADarkDesktop) {
+  const ColorsOfDesktop dark(replay::DarkPalette());
+  ExpectFocusIsSeenEverywhere();
 }
 
 }  // namespace

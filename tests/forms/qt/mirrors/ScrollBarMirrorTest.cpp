@@ -45,15 +45,15 @@ class ScrollBarMirrorTest : public MirrorBench {
   QScrollBar& widget = Show<QScrollBar>(bar);
 };
 
-TEST_F(ScrollBarMirrorTest, TheKeysMoveItTheWayTheyPoint) {
+TEST_F(ScrollBarMirrorTest, TheKeysThatPointRightAndUpRaiseIt) {
   widget.setFocus();
   bar.SetValue(100);
   EXPECT_EQ(ValueAfter(Qt::Key_Right), 101);
   EXPECT_EQ(ValueAfter(Qt::Key_Left), 100);
-  EXPECT_EQ(ValueAfter(Qt::Key_Down), 101);
-  EXPECT_EQ(ValueAfter(Qt::Key_Up), 100);
-  EXPECT_EQ(ValueAfter(Qt::Key_PageDown), 116);
-  EXPECT_EQ(ValueAfter(Qt::Key_PageUp), 100);
+  EXPECT_EQ(ValueAfter(Qt::Key_Up), 101);
+  EXPECT_EQ(ValueAfter(Qt::Key_Down), 100);
+  EXPECT_EQ(ValueAfter(Qt::Key_PageUp), 116);
+  EXPECT_EQ(ValueAfter(Qt::Key_PageDown), 100);
   EXPECT_EQ(ValueAfter(Qt::Key_End), 255);
   EXPECT_EQ(ValueAfter(Qt::Key_Right), 255);
   EXPECT_EQ(ValueAfter(Qt::Key_Home), 0);

@@ -1,8 +1,11 @@
-// The mouse wheel changes only what has the focus.
+// The mouse wheel changes no value.
 #include "forms/qt/MirrorBench.h"
+#include "forms/qt/Settle.h"
 
+#include <QAbstractItemView>
 #include <QCoreApplication>
 #include <QScrollBar>
+#include <QTabBar>
 #include <QWheelEvent>
 #include <QtTest/QTest>
 
@@ -21,38 +24,37 @@ class InputsTest : public MirrorBench {
   }
 };
 
-TEST_F(InputsTest, APickListTurnsWithTheFocusOnly) {
+// Who scrolls a page may have any of them under the pointer, and the focus on it.
+TEST_F(InputsTest, TheWheelTurnsNoInputWithOrWithoutTheFocus) {
   pick.AddRows({"a", "b", "c"});
   pick.Choose(0);
-  auto& combo = Show<QComboBox>(pick);
-  EXPECT_FALSE(Turn(combo));
-  EXPECT_EQ(pick.Row(), 0);
-  combo.setFocus();
-  EXPECT_TRUE(Turn(combo));
-  EXPECT_EQ(pick.Row(), 1);
-}
-
-TEST_F(InputsTest, AScrollBarTurnsWithTheFocusOnly) {
   bar.SetValue(100);
-  auto& widget = Show<QScrollBar>(bar);
-  EXPECT_FALSE(Turn(widget));
+  const auto turnAll = [this] {
+    for (const Control* control : std::initializer_list<Control*>{&pick, &bar, &tabs}) {
+      auto* group = qobject_cast<QTabWidget*>(&mirrors.Of(*control).Widget());
+      QWidget& widget = group == nullptr ? mirrors.Of(*control).Widget() : *group->tabBar();
+      EXPECT_FALSE(Turn(widget)) << control->Name();
+      widget.setFocus();
+      EXPECT_TRUE(widget.hasFocus()) << control->Name();
+      EXPECT_FALSE(Turn(widget)) << control->Name();
+    }
+  };
+  Show<QComboBox>(pick);
+  Show<QScrollBar>(bar);
+  Show<QTabWidget>(tabs);
+  turnAll();
+  EXPECT_EQ(pick.Row(), 0);
   EXPECT_EQ(bar.Value(), 100);
-  widget.setFocus();
-  EXPECT_TRUE(Turn(widget));
-  EXPECT_NE(bar.Value(), 100);
+  EXPECT_EQ(tabs.Tab(), 0);
 }
 
-TEST_F(InputsTest, AKeyDoesNotReverseTheWheelOfAScrollBar) {
-  auto& widget = Show<QScrollBar>(bar);
-  widget.setFocus();
-  const auto valueAfterTurn = [&] {
-    bar.SetValue(100);
-    Turn(widget);
-    return bar.Value();
-  };
-  const int before = valueAfterTurn();
-  QTest::keyClick(&widget, Qt::Key_Up);
-  EXPECT_EQ(valueAfterTurn(), before);
+TEST_F(InputsTest, TheWheelScrollsAnOpenList) {
+  pick.AddRows(std::vector<std::string>(100, "row"));
+  auto& combo = Show<QComboBox>(pick);
+  combo.showPopup();
+  Settle();
+  EXPECT_TRUE(Turn(*combo.view()->viewport()));
+  EXPECT_GT(combo.view()->verticalScrollBar()->value(), 0);
 }
 
 TEST_F(InputsTest, TheWheelAloneGivesNoFocus) {
