@@ -2,6 +2,7 @@
 
 #include <QGridLayout>
 #include <QMargins>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace wheelwright {
@@ -53,6 +54,17 @@ QLayout* Arrows(FrmExport& exporter, QWidget* window, MirrorSet& mirrors) {
   return column;
 }
 
+// A double click and Enter move the marked rows as the arrow to the other list does.
+void MoveByHand(MarkList& list, const Button& arrow, const MirrorSet& mirrors) {
+  auto* rows = &static_cast<QAbstractItemView&>(mirrors.Of(list).Widget());
+  auto* button = &static_cast<QPushButton&>(mirrors.Of(arrow).Widget());
+  auto* enter = new QShortcut(rows);
+  enter->setKeys({Qt::Key_Return, Qt::Key_Enter});
+  enter->setContext(Qt::WidgetShortcut);
+  QObject::connect(enter, &QShortcut::activated, button, &QPushButton::click);
+  QObject::connect(rows, &QAbstractItemView::doubleClicked, button, &QPushButton::click);
+}
+
 // As wide and high as the row gives, which is at least what its caption needs.
 QWidget* BottomButton(Button& button, QWidget* window, MirrorSet& mirrors) {
   QWidget& widget = mirrors.Add(button, window).Widget();
@@ -89,6 +101,8 @@ void LayOutExport(FrmExport& exporter, QWidget* window, MirrorSet& mirrors) {
   for (const Button* arrow : {&exporter.cmdDel, &exporter.cmdDelAll}) {
     available.Describe(mirrors.Of(*arrow).Widget());
   }
+  MoveByHand(exporter.lst1, exporter.cmdAdd, mirrors);
+  MoveByHand(exporter.lst2, exporter.cmdDel, mirrors);
   auto* column = new QVBoxLayout(window);
   column->setContentsMargins(kMargins);
   column->setSpacing(kBelowLists);

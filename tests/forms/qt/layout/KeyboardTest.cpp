@@ -250,6 +250,23 @@ TEST_F(KeyboardTest, VehiclesAreChosenForExport) {
   EXPECT_FALSE(windows.Of(test.exporter).isVisible());
 }
 
+TEST_F(KeyboardTest, EnterMovesTheMarkedVehiclesToTheOtherSide) {
+  OpenThreeVehicles();
+  main.cmdExportCar.ClickByHand();
+  ReturnTo(test.exporter);
+  TabTo(test.exporter.lst1);
+  Press(Qt::Key_Home);
+  Press(Qt::Key_Down, Qt::ShiftModifier);
+  Press(Qt::Key_Return);
+  EXPECT_EQ(test.exporter.lst2.Rows(), (Shown{"BUS", "TAXI"}));
+  EXPECT_EQ(Focused(), "lst1");
+  TabTo(test.exporter.lst2);
+  Press(Qt::Key_Space);
+  Press(Qt::Key_Enter);
+  EXPECT_EQ(test.exporter.lst1.Rows(), (Shown{"BUS", "TRUCK"}));
+  EXPECT_EQ(Differences(), "");
+}
+
 TEST_F(KeyboardTest, EscapeLeavesTheExport) {
   OpenThreeVehicles();
   main.cmdExportCar.ClickByHand();

@@ -114,6 +114,22 @@ TEST_F(WindowSetTest, AnArrowOfTheExportIsDescribedByTheListThatItFills) {
   EXPECT_EQ(description(test.exporter.cmdDelAll), "E110");
 }
 
+TEST_F(WindowSetTest, ADoubleClickMovesAVehicleToTheOtherSideOfTheExport) {
+  ShowExport();
+  const auto doubleClick = [this](const MarkList& list) {
+    auto& view = Of<RowView>(list);
+    const QPoint row = view.visualRect(view.model()->index(0, 0)).center();
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, row);
+    EXPECT_EQ(list.Marked(), std::vector<int>{0});
+    QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, row);
+  };
+  doubleClick(test.exporter.lst1);
+  EXPECT_EQ(test.exporter.lst2.Rows(), Shown{"BUS"});
+  doubleClick(test.exporter.lst2);
+  EXPECT_EQ(test.exporter.lst1.Rows(), Shown{"BUS"});
+  EXPECT_EQ(Differences(), "");
+}
+
 TEST_F(WindowSetTest, TheStandardKeysClickTheirButtons) {
   test.desktop.choices = {std::nullopt};
   Press(QKeySequence::Open, "Ctrl+O");
