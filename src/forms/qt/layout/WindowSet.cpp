@@ -3,7 +3,10 @@
 #include "forms/qt/layout/Layouts.h"
 #include "forms/qt/widgets/ShownText.h"
 
+#include <algorithm>
+
 #include <QCloseEvent>
+#include <QScreen>
 #include <QShortcut>
 
 namespace wheelwright {
@@ -30,6 +33,18 @@ class WindowShell : public QWidget {
   void closeEvent(QCloseEvent* event) override {
     edge_.Enter([this] { Run(window_.closeRequested); });
     event->setAccepted(!window_.IsVisible());
+  }
+
+  // Over the middle of its owner, where the person is looking, and on the screen.
+  void showEvent(QShowEvent* event) override {
+    if (parentWidget() == nullptr || event->spontaneous()) return;
+    const QRect screen = parentWidget()->screen()->availableGeometry();
+    // Its own frame isn't known before it is there.
+    QRect place(QPoint(), size() + parentWidget()->frameSize() - parentWidget()->size());
+    place.moveCenter(parentWidget()->frameGeometry().center());
+    place.moveBottomRight(
+        {std::min(place.right(), screen.right()), std::min(place.bottom(), screen.bottom())});
+    move(std::max(place.left(), screen.left()), std::max(place.top(), screen.top()));
   }
 
  private:

@@ -3,6 +3,7 @@
 #include "forms/qt/Settle.h"
 
 #include <QPushButton>
+#include <QScreen>
 #include <QtTest/QTest>
 
 namespace wheelwright::testing {
@@ -128,6 +129,32 @@ TEST_F(WindowSetTest, ADoubleClickMovesAVehicleToTheOtherSideOfTheExport) {
   doubleClick(test.exporter.lst2);
   EXPECT_EQ(test.exporter.lst1.Rows(), Shown{"BUS"});
   EXPECT_EQ(Differences(), "");
+}
+
+// A screen may be too small for that.
+TEST_F(WindowSetTest, TheOtherWindowsComeUpOverTheMiddleOfTheMainOne) {
+  QWidget& owner = windows.Of(main);
+  const QRect screen = owner.screen()->availableGeometry();
+  owner.move(screen.center() - owner.rect().center());
+  ShowErrors();
+  ShowExport();
+  for (const Window* window : {static_cast<Window*>(&test.error), static_cast<Window*>(&test.exporter)}) {
+    QRect place = windows.Of(*window).frameGeometry();
+    place.moveCenter(owner.frameGeometry().center());
+    const QPoint wanted(std::max(place.left(), screen.left()), std::max(place.top(), screen.top()));
+    EXPECT_LE((windows.Of(*window).pos() - wanted).manhattanLength(), 2) << window->Name();
+  }
+}
+
+TEST_F(WindowSetTest, TheOtherWindowsStayOnTheScreen) {
+  const QRect screen = windows.Of(main).screen()->availableGeometry();
+  windows.Of(main).move(screen.topLeft() - QPoint(3000, 3000));
+  ShowExport();
+  EXPECT_EQ(windows.Of(test.exporter).pos(), screen.topLeft());
+  test.exporter.SetVisible(false);
+  windows.Of(main).move(screen.bottomRight() + QPoint(3000, 3000));
+  ShowExport();
+  EXPECT_EQ(windows.Of(test.exporter).frameGeometry().bottomRight(), screen.bottomRight());
 }
 
 TEST_F(WindowSetTest, TheStandardKeysClickTheirButtons) {
