@@ -131,6 +131,7 @@ void StartUp(Session& session, const std::string& programDirectory) {
 
 void RequestEnd(Session& session) {
   if (session.vars.IsSaved || session.desktop.AskQuestion(Message(session, kExitAnyway))) {
+    session.main.SetVisible(false);
     session.desktop.EndProgram();
   }
 }

@@ -5,8 +5,10 @@
 
 #include <algorithm>
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QScreen>
+#include <QSessionManager>
 #include <QShortcut>
 
 namespace wheelwright {
@@ -68,6 +70,9 @@ WindowSet::WindowSet(Session& session, EventEdge& edge)
   LayOutMain(session.main, main_.get(), mirrors_);
   LayOutError(session.error, error_.get(), mirrors_);
   LayOutExport(session.exporter, exporter_.get(), mirrors_);
+  QObject::connect(qApp, &QGuiApplication::commitDataRequest, main_.get(), [this](QSessionManager& ending) {
+    if (ending.allowsInteraction() && !main_->close()) ending.cancel();
+  });
 }
 
 QWidget& WindowSet::Of(const Window& window) const {

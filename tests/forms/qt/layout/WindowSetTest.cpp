@@ -4,12 +4,20 @@
 
 #include <QPushButton>
 #include <QScreen>
+#include <QSessionManager>
 #include <QtTest/QTest>
 
 namespace wheelwright::testing {
 namespace {
 
 using Shown = std::vector<std::string>;
+
+// Whether the desktop waits for a person's answer at the end of the user's session, and how often it
+// was told not to end.
+struct UsersSession {
+  static inline bool waits = true;
+  static inline int refusals = 0;
+};
 
 class WindowSetTest : public RealWindows {
  protected:
@@ -64,6 +72,27 @@ TEST_F(WindowSetTest, ClosingTheMainWindowWithAYesEndsTheProgram) {
   test.desktop.answers = {true};
   windows.Of(main).close();
   EXPECT_EQ(test.desktop.shown, (Shown{"question: E117", "end"}));
+}
+
+TEST_F(WindowSetTest, TheEndOfTheUsersSessionComesAsTheCloseBoxDoes) {
+  auto& manager = *qApp->findChild<QSessionManager*>();
+  test.vars.IsSaved = false;
+  test.desktop.answers = {false, true};
+  Q_EMIT qApp->commitDataRequest(manager);
+  EXPECT_EQ(test.desktop.shown, Shown{"question: E117"});
+  EXPECT_TRUE(windows.Of(main).isVisible());
+  EXPECT_EQ(UsersSession::refusals, 1);
+  Q_EMIT qApp->commitDataRequest(manager);
+  EXPECT_EQ(test.desktop.shown, (Shown{"question: E117", "question: E117", "end"}));
+  EXPECT_EQ(UsersSession::refusals, 1);
+}
+
+TEST_F(WindowSetTest, NobodyIsAskedWhereTheEndOfTheUsersSessionDoesNotWait) {
+  UsersSession::waits = false;
+  test.vars.IsSaved = false;
+  Q_EMIT qApp->commitDataRequest(*qApp->findChild<QSessionManager*>());
+  UsersSession::waits = true;
+  EXPECT_EQ(test.desktop.shown, Shown());
 }
 
 TEST_F(WindowSetTest, ClosingTheExportForgetsItsLists) {
@@ -228,3 +257,7 @@ TEST_F(WindowSetTest, AllControlsShowWhatThePlainOnesSay) {
 
 }  // namespace
 }  // namespace wheelwright::testing
+
+// In the place of the toolkit's own, which know of no desktop in a test.
+bool QSessionManager::allowsInteraction() { return wheelwright::testing::UsersSession::waits; }
+void QSessionManager::cancel() { ++wheelwright::testing::UsersSession::refusals; }
