@@ -95,6 +95,7 @@ void OpenChosenFile(Session& session) {
   // The choice has filled the screen, which leaves the flag in whatever state the handlers give.
   session.vars.IsSaved = true;
   EnableCommands(main, *kind);
+  main.cmbAutos.TakeFocus();
   session.desktop.SetPointer(Pointer::Normal);
 }
 

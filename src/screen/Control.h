@@ -55,6 +55,7 @@ enum class Aspect {
   Content,  // text, caption, state, value, colour, picture, tab captions
   Rows,     // the rows of a list as a whole
   Choice,   // the chosen row, the marked rows, the tab in front
+  Focus,    // nothing of its own: it shall have the keyboard
 };
 
 class Control {
@@ -78,6 +79,8 @@ class Control {
   // in front and not whether the window is up.
   bool IsEnabledHere() const;
   bool IsVisibleHere() const;
+
+  void TakeFocus() { Tell(Aspect::Focus); }
 
   // Puts the entries of a language table in the place of the control's texts.
   virtual void Translate(std::span<const std::string> /*lang*/) {}

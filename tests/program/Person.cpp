@@ -3,7 +3,8 @@
 // by a line on standard output that says what can be seen then, also while a box or a dialog waits
 // inside the order.
 //
-//   see NAME        nothing is done; "front" is what has to be answered or used next
+//   see NAME        nothing is done; "front" is what has to be answered or used next, "focus" what
+//                   has the keyboard
 //   click NAME      the left mouse button in the middle of the widget of that name
 //   key KEYS        "ctrl+s", to the window that has the focus
 //   type TEXT
@@ -49,6 +50,7 @@ void ActivateFront() {
 
 QWidget* Find(const QString& name) {
   if (name == "front") return Front();
+  if (name == "focus") return QApplication::focusWidget();
   for (QWidget* widget : QApplication::allWidgets())
     if (widget->objectName() == name && widget->isVisible()) return widget;
   return nullptr;
@@ -78,7 +80,8 @@ QJsonObject Seen(const QString& name) {
   const QPoint middle = widget->mapToGlobal(widget->rect().center());
   QVariant text = widget->property("text");
   if (!text.isValid()) text = widget->property("currentText");
-  return {{"title", widget->windowTitle()},
+  return {{"name", widget->objectName()},
+          {"title", widget->windowTitle()},
           {"text", text.toString()},
           {"rows", RowsOf(*widget)},
           {"owner", owner == nullptr ? "" : owner->window()->objectName()},

@@ -37,7 +37,7 @@ class Display:
         self.act("mousemove", *self.program.see(name)["place"], "click", 1)
 
     def key(self, keys):
-        self.act("key", keys)
+        self.act("key", keys.replace("PgDown", "Next"))
 
     def type(self, text):
         self.act("type", "--delay", 5, text)

@@ -58,13 +58,18 @@ class ProgramTest(unittest.TestCase):
         program.until("frmMain", owner="")
         return program
 
-    def with_an_edit(self):
+    def opened(self):
         program = self.started()
         program.key("ctrl+o")
         program.until("front", title="Open a file", owner="frmMain")
         program.hands.type(str(self.file))
         program.key("Return")
         program.until("frmMain", title=f"GTAViceCity PC-Version - Wheelwright [{self.file}]")
+        program.until("focus", name="cmbAutos")
+        return program
+
+    def with_an_edit(self):
+        program = self.opened()
         program.write("txtGewicht", "1")
         return program
 
@@ -86,6 +91,26 @@ class ProgramTest(unittest.TestCase):
                          (SAVE / "save" / "after" / "game" / "handling.cfg").read_bytes())
         program.key("ctrl+q")
         self.assertEqual(program.ending(), (0, ""))
+
+    def test_one_value_of_five_vehicles_is_edited_and_saved_by_keyboard_alone(self):
+        shutil.copy(ROOT / "samples" / "handling.cfg", self.file)
+        program = self.opened()
+        masses = dict(zip(program.see("cmbAutos")["rows"], "12345"))
+        while program.see("focus")["name"] != "txtGewicht":
+            program.key("Tab")
+        for name, mass in masses.items():
+            program.until("txtAutoname", text=name)
+            program.hands.type(mass)
+            program.until("txtGewicht", text=mass)
+            program.key("alt+PgDown")
+        program.key("ctrl+s")
+        self.answer(program, entry("English", 116), "Return")
+        program.until("front", owner="")
+        program.key("ctrl+q")
+        self.assertEqual(program.ending(), (0, ""))
+        lines = [line.split() for line in self.file.read_text("cp1252").splitlines()]
+        saved = {words[0]: words[1] for words in lines if len(words) == 33}
+        self.assertEqual(masses, {name: saved[name] for name in masses})
 
     def test_unsaved_edits_keep_the_program_until_they_are_given_up(self):
         before = self.file.read_bytes()

@@ -1,12 +1,70 @@
 #include "forms/qt/layout/Layouts.h"
 
+#include <QApplication>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QShortcut>
+#include <QTabBar>
 #include <QVBoxLayout>
 
 namespace wheelwright {
 namespace {
+
+// The platform's keys, or the usual one where the platform has none.
+QList<QKeySequence> KeysFor(QKeySequence::StandardKey key, const char* usual) {
+  const QList<QKeySequence> keys = QKeySequence::keyBindings(key);
+  return keys.isEmpty() ? QList<QKeySequence>{QKeySequence(usual)} : keys;
+}
+
+// Keys that work in the whole window, if the widget can be seen and used, and stand in its tool tip.
+template <class WidgetType, class Action>
+void GiveKeys(const QList<QKeySequence>& keys, WidgetType& widget, Action action) {
+  auto* shortcut = new QShortcut(&widget);
+  shortcut->setKeys(keys);
+  QObject::connect(shortcut, &QShortcut::activated, &widget, action);
+  const QString shown = QKeySequence::listToString(keys);
+  widget.setToolTip(widget.toolTip().isEmpty() ? shown : widget.toolTip() + "; " + shown);
+}
+
+void GiveKeysToButtons(const FrmMain& main, const MirrorSet& mirrors) {
+  const auto give = [&](QKeySequence::StandardKey key, const char* usual, const Button& button) {
+    GiveKeys(KeysFor(key, usual), static_cast<QPushButton&>(mirrors.Of(button).Widget()),
+             &QPushButton::click);
+  };
+  give(QKeySequence::Open, "Ctrl+O", main.cmdOpen);
+  give(QKeySequence::Save, "Ctrl+S", main.cmdSave);
+  give(QKeySequence::SaveAs, "Ctrl+Shift+S", main.cmdSaveAs);
+  give(QKeySequence::HelpContents, "F1", main.cmdHelp);
+  give(QKeySequence::Quit, "Ctrl+Q", main.cmdEnde);
+}
+
+// A person works on one field of many vehicles: the focus stays there, and what is typed replaces the
+// text. Alt with an arrow would open a pick list that has the focus.
+void GiveKeysToVehicles(QComboBox& vehicles) {
+  // There a person finds one by typing its name.
+  GiveKeys(KeysFor(QKeySequence::Find, "Ctrl+F"), vehicles,
+           [&vehicles] { vehicles.setFocus(Qt::ShortcutFocusReason); });
+  const auto giveStep = [&vehicles](const char* key, Qt::Key arrow) {
+    GiveKeys({QKeySequence(key)}, vehicles, [&vehicles, arrow] {
+      QKeyEvent press(QEvent::KeyPress, arrow, Qt::NoModifier);
+      QCoreApplication::sendEvent(&vehicles, &press);
+      if (auto* box = qobject_cast<QLineEdit*>(QApplication::focusWidget())) box->selectAll();
+    });
+  };
+  giveStep("Alt+PgDown", Qt::Key_Down);
+  giveStep("Alt+PgUp", Qt::Key_Up);
+}
+
+void GiveKeysToTabs(QTabBar& tabs) {
+  const auto giveStep = [&tabs](const QList<QKeySequence>& keys, int step) {
+    GiveKeys(keys, tabs, [&tabs, step] {
+      tabs.setCurrentIndex((tabs.currentIndex() + step + tabs.count()) % tabs.count());
+    });
+  };
+  giveStep({QKeySequence("Ctrl+Tab"), QKeySequence("Ctrl+PgDown")}, 1);
+  giveStep({QKeySequence("Ctrl+Shift+Tab"), QKeySequence("Ctrl+PgUp")}, -1);
+}
 
 QLayout* LeftColumn(FrmMain& main, QWidget* window, MirrorSet& mirrors) {
   auto* column = new QVBoxLayout;
@@ -28,6 +86,7 @@ TabGroupMirror& AddGroup(TabGroup& group, QWidget* window, QGridLayout* spot, Mi
   policy.setRetainSizeWhenHidden(true);
   mirror.Widget().setSizePolicy(policy);
   spot->addWidget(&mirror.Widget(), 0, 0);
+  GiveKeysToTabs(*mirror.Widget().tabBar());
   return mirror;
 }
 
@@ -49,32 +108,6 @@ QLayout* BottomRow(FrmMain& main, QWidget* window, MirrorSet& mirrors) {
   return row;
 }
 
-// The platform's keys, or the usual one where the platform has none.
-QShortcut* Shortcut(QKeySequence::StandardKey key, const char* usual, QWidget* window) {
-  auto* shortcut = new QShortcut(window);
-  const QList<QKeySequence> keys = QKeySequence::keyBindings(key);
-  shortcut->setKeys(keys.isEmpty() ? QList<QKeySequence>{QKeySequence(usual)} : keys);
-  return shortcut;
-}
-
-// A disabled button takes no click from its key either.
-void GiveKey(QShortcut* key, const Button& button, const MirrorSet& mirrors) {
-  auto* clicked = &static_cast<QPushButton&>(mirrors.Of(button).Widget());
-  QObject::connect(key, &QShortcut::activated, clicked, &QPushButton::click);
-}
-
-void GiveKeys(const FrmMain& main, QWidget* window, const MirrorSet& mirrors) {
-  GiveKey(Shortcut(QKeySequence::Open, "Ctrl+O", window), main.cmdOpen, mirrors);
-  GiveKey(Shortcut(QKeySequence::Save, "Ctrl+S", window), main.cmdSave, mirrors);
-  GiveKey(Shortcut(QKeySequence::SaveAs, "Ctrl+Shift+S", window), main.cmdSaveAs, mirrors);
-  GiveKey(Shortcut(QKeySequence::HelpContents, "F1", window), main.cmdHelp, mirrors);
-  GiveKey(Shortcut(QKeySequence::Quit, "Ctrl+Q", window), main.cmdEnde, mirrors);
-  // In the list of vehicles a person finds one by typing its name.
-  QWidget* vehicles = &mirrors.Of(main.cmbAutos).Widget();
-  QObject::connect(Shortcut(QKeySequence::Find, "Ctrl+F", window), &QShortcut::activated, vehicles,
-                   [vehicles] { vehicles->setFocus(Qt::ShortcutFocusReason); });
-}
-
 }  // namespace
 
 void LayOutMain(FrmMain& main, QWidget* window, MirrorSet& mirrors) {
@@ -85,7 +118,9 @@ void LayOutMain(FrmMain& main, QWidget* window, MirrorSet& mirrors) {
   grid->addLayout(LeftColumn(main, window, mirrors), 0, 0, 2, 1);
   grid->addLayout(TabGroups(main, window, mirrors), 0, 1);
   grid->addLayout(BottomRow(main, window, mirrors), 1, 1);
-  GiveKeys(main, window, mirrors);
+  GiveKeysToButtons(main, mirrors);
+  GiveKeysToVehicles(static_cast<QComboBox&>(mirrors.Of(main.cmbAutos).Widget()));
+  mirrors.Of(main.cmdOpen).Widget().setFocus();
 }
 
 }  // namespace wheelwright

@@ -13,6 +13,8 @@ Mirror::~Mirror() { control_.notice = nullptr; }
 void Mirror::Notice(Aspect aspect) {
   if (aspect == Aspect::State) {
     FollowState();
+  } else if (aspect == Aspect::Focus) {
+    widget_.setFocus();
   } else {
     Follow(aspect);
   }

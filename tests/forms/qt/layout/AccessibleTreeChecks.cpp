@@ -43,10 +43,11 @@ std::string WhatIs(const QAccessibleInterface& object) {
   return (widget + " \"" + SpokenName(object) + "\"").toStdString();
 }
 
-// All that a person can read in the window as a caption, as it is read.
-QStringList Readable(const Window& window) {
-  QStringList texts = {QString::fromStdString(window.Title())};
-  for (const Control* control : window.Controls()) {
+// All that a person can read in the window as a caption or a key, as it is read.
+QStringList Readable(const View& view) {
+  QStringList texts = {QString::fromStdString(view.plain.Title())};
+  for (const Control* control : view.plain.Controls()) {
+    texts += view.Of(*control).toolTip();
     if (const auto* captioned = dynamic_cast<const Captioned*>(control)) {
       texts += replay::AsRead(captioned->Caption());
     } else if (const auto* group = dynamic_cast<const TabGroup*>(control)) {
@@ -58,7 +59,7 @@ QStringList Readable(const Window& window) {
 
 // Two things of one kind, one name and one description couldn't be told from each other.
 void ExpectNamesAndDescriptions(const View& view) {
-  const QStringList readable = Readable(view.plain);
+  const QStringList readable = Readable(view);
   std::set<std::tuple<int, QString, QString>> spoken;
   for (const QAccessibleInterface* object : TreeOf(view.window)) {
     if (!TakesKeys(*object)) continue;

@@ -4,6 +4,8 @@
 
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QTabBar>
+#include <QTabWidget>
 
 namespace wheelwright::testing {
 namespace {
@@ -59,6 +61,18 @@ class KeyboardTest : public Keyboard {
     }
   }
 };
+
+TEST_F(KeyboardTest, TheFocusBeginsAtOpeningAndGoesToTheVehiclesOfEachFile) {
+  EXPECT_EQ(Focused(), "cmdOpen");
+  OpenThreeVehicles();
+  EXPECT_EQ(Focused(), "cmbAutos");
+  TabTo(main.cmdOpen);
+  test.desktop.choices.push_back(std::nullopt);
+  Press(Qt::Key_Space);
+  EXPECT_EQ(Focused(), "cmdOpen") << "without a load";
+  OpenDefinition();
+  EXPECT_EQ(Focused(), "cmbAutos");
+}
 
 TEST_F(KeyboardTest, AValueIsChangedAndSaved) {
   OpenThreeVehicles();
@@ -119,6 +133,77 @@ TEST_F(KeyboardTest, TheTabsTurnFromAnyFieldOnThem) {
   EXPECT_TRUE(windows.Of(main.SSTab1).isAncestorOf(windows.Of(main).focusWidget()));
   Press(Qt::Key_Tab, Qt::ControlModifier | Qt::ShiftModifier);
   EXPECT_EQ(main.SSTab1.Tab(), 0);
+}
+
+TEST_F(KeyboardTest, TheTabsTurnFromAnywhereInTheWindow) {
+  Press(Qt::Key_Tab, Qt::ControlModifier);
+  EXPECT_EQ(main.SSTab1.Tab(), 0) << "without a file";
+  OpenColors();
+  for (const Control* from : std::initializer_list<Control*>{&main.cmbAutos, &main.cmdHelp, &main.SSTab3}) {
+    TabTo(*from);
+    Press(Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(main.SSTab3.Tab(), 1) << from->Name();
+    Press(Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(main.SSTab3.Tab(), 0) << from->Name();
+    Press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(main.SSTab3.Tab(), 1) << from->Name();
+    Press(Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(main.SSTab3.Tab(), 0) << from->Name();
+    EXPECT_EQ(Focused().toStdString(), from->Name());
+  }
+  EXPECT_EQ(main.SSTab1.Tab(), 0);
+}
+
+TEST_F(KeyboardTest, TheNextAndThePreviousVehicleComeToTheFieldWithTheFocus) {
+  OpenThreeVehicles();
+  int shown = 0;
+  const auto show = main.cmbAutos.clicked;
+  main.cmbAutos.clicked = [&] {
+    ++shown;
+    show();
+  };
+  for (const Control* from : std::initializer_list<Control*>{&main.txtGewicht, &main.cmbFrontLichter,
+                                                             &main.cmbAutos, &main.cmdSave}) {
+    TabTo(*from);
+    shown = 0;
+    Press(Qt::Key_PageDown, Qt::AltModifier);
+    Press(Qt::Key_PageDown, Qt::AltModifier);
+    EXPECT_EQ(main.txtAutoname.Text(), "TRUCK") << from->Name();
+    EXPECT_EQ(shown, 2);
+    Press(Qt::Key_PageUp, Qt::AltModifier);
+    EXPECT_EQ(main.cmbAutos.Text(), "TAXI") << from->Name();
+    Press(Qt::Key_PageUp, Qt::AltModifier);
+    Press(Qt::Key_PageUp, Qt::AltModifier);
+    EXPECT_EQ(main.txtAutoname.Text(), "BUS") << from->Name();
+    EXPECT_EQ(Focused().toStdString(), from->Name());
+  }
+  EXPECT_TRUE(test.vars.IsSaved);
+  EXPECT_EQ(Differences(), "");
+}
+
+// What is typed replaces the value, as after the Tab key.
+TEST_F(KeyboardTest, OneFieldIsTypedForManyVehicles) {
+  OpenThreeVehicles();
+  TabTo(main.txtGewicht);
+  for (const char* mass : {"1", "2", "3"}) {
+    Type(mass);
+    Press(Qt::Key_PageDown, Qt::AltModifier);
+  }
+  for (int car = 0; car < 3; ++car) EXPECT_EQ(test.vars.Cars.At(car).Mass, std::to_string(car + 1));
+}
+
+TEST_F(KeyboardTest, TheKeysStandInToolTips) {
+  const auto tip = [this](const Control& control) { return windows.Of(control).toolTip(); };
+  EXPECT_EQ(tip(main.cmdOpen), "Ctrl+O");
+  EXPECT_EQ(tip(main.cmdSave), "Ctrl+S");
+  EXPECT_EQ(tip(main.cmdSaveAs), "Ctrl+Shift+S");
+  EXPECT_EQ(tip(main.cmdHelp), "F1");
+  EXPECT_EQ(tip(main.cmdEnde), "Ctrl+Q");
+  EXPECT_EQ(tip(main.cmbAutos), "Ctrl+F; Alt+PgDown; Alt+PgUp");
+  for (const TabGroup* group : {&main.SSTab1, &main.SSTab2, &main.SSTab3}) {
+    EXPECT_EQ(Of<QTabWidget>(*group).tabBar()->toolTip(), "Ctrl+Tab; Ctrl+PgDown; Ctrl+Shift+Tab; Ctrl+PgUp");
+    EXPECT_EQ(tip(*group), "") << "it would show over all fields";
+  }
 }
 
 TEST_F(KeyboardTest, EveryTextBoxIsTypedInto) {
