@@ -229,9 +229,7 @@ TEST_F(WindowSetTest, TheMainWindowKeepsItsSizeWhateverFileIsOpen) {
 TEST_F(WindowSetTest, AllPairsOfAVehicleShowHoweverManyTheyAre) {
   constexpr int kMost = 32767;
   test.OpenColors(kColors);
-  std::vector<std::int16_t> numbers(kMost - 1);
-  test.vars.CarColors.At(0).Color1 = numbers;
-  test.vars.CarColors.At(0).Color2 = numbers;
+  test.vars.CarColors.At(0).Pairs.resize(kMost - 1);
   main.cmbAutos.ChooseByHand(0);
   main.cmdAddColor.ClickByHand();
   EXPECT_EQ(Of<RowView>(main.lstCarColors).model()->rowCount(), kMost);
