@@ -41,6 +41,15 @@ std::string_view TrimBlanks(std::string_view text) {
   return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
+std::string Joined(std::initializer_list<std::string_view> texts) {
+  std::size_t length = 0;
+  for (const std::string_view text : texts) length += text.size();
+  std::string joined;
+  joined.reserve(length);
+  for (const std::string_view text : texts) joined += text;
+  return joined;
+}
+
 std::string FoldedCase(std::string_view text) {
   std::string folded(text);
   std::transform(folded.begin(), folded.end(), folded.begin(), FoldCase);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,6 +14,9 @@ inline constexpr std::string_view kLineEnd = "\r\n";
 
 // The text without the blanks at both ends. Tabs stay.
 std::string_view TrimBlanks(std::string_view text);
+
+// The texts behind each other, in no more memory than they take.
+std::string Joined(std::initializer_list<std::string_view> texts);
 
 // The text with every capital letter of the code page as its lower-case letter.
 std::string FoldedCase(std::string_view text);

@@ -6,6 +6,7 @@
 
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace wheelwright {
@@ -14,11 +15,11 @@ namespace {
 // The names by Index; of two colours with the same Index the later one counts.
 using NamesByIndex = std::unordered_map<std::int16_t, const FieldText*>;
 
-void LookUp(const NamesByIndex& names, std::int16_t index, std::string& name) {
+void LookUp(const NamesByIndex& names, std::int16_t index, std::string_view& name) {
   if (const auto found = names.find(index); found != names.end()) name = *found->second;
 }
 
-void RepairIfNameless(const ColorEntry& firstColor, std::int16_t& index, std::string& name) {
+void RepairIfNameless(const ColorEntry& firstColor, std::int16_t& index, std::string_view& name) {
   if (!name.empty()) return;
   index = firstColor.Index;
   name = firstColor.ColorName;
@@ -26,14 +27,15 @@ void RepairIfNameless(const ColorEntry& firstColor, std::int16_t& index, std::st
 
 // The two names are empty once per entry, not once per pair.
 void ListPairsOf(Session& session, const NamesByIndex& names, CarColorEntry& entry) {
-  std::string first;
-  std::string second;
+  const ColorEntry& firstColor = std::as_const(session.vars.Colors).At(0);
+  std::string_view first;
+  std::string_view second;
   for (ColorPair& pair : entry.Pairs) {
     LookUp(names, pair.Color1, first);
     LookUp(names, pair.Color2, second);
-    RepairIfNameless(session.vars.Colors.At(0), pair.Color1, first);
-    RepairIfNameless(session.vars.Colors.At(0), pair.Color2, second);
-    session.main.lstCarColors.AddRow(first + " - " + second);
+    RepairIfNameless(firstColor, pair.Color1, first);
+    RepairIfNameless(firstColor, pair.Color2, second);
+    session.main.lstCarColors.AddRow(Joined({first, " - ", second}));
   }
 }
 
@@ -94,7 +96,7 @@ void RefreshPickLists(Session& session, int leftTab) {
 }
 
 void FillSwatch(Session& session, const PickList& list, Swatch& swatch) {
-  const ColorEntry& color = session.vars.Colors.At(list.Row());
+  const ColorEntry& color = std::as_const(session.vars.Colors).At(list.Row());
   swatch.Fill(color.Red, color.Green, color.Blue);
 }
 
@@ -114,7 +116,7 @@ void AddPair(Session& session) {
   Checked16(entry.Pairs.size());
   entry.Pairs.push_back({Checked16(first), Checked16(second)});
   const Table<ColorEntry>& colors = session.vars.Colors;
-  main.lstCarColors.AddRow(colors.At(first).ColorName + " - " + colors.At(second).ColorName);
+  main.lstCarColors.AddRow(Joined({colors.At(first).ColorName, " - ", colors.At(second).ColorName}));
   session.vars.IsSaved = false;
 }
 

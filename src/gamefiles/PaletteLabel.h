@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/Records.h"
+#include "core/Text.h"
 
 #include <array>
 #include <optional>
@@ -12,8 +13,8 @@ namespace wheelwright {
 // The name, " - ", then red, green and blue in decimal with "," between them:
 // "Color94 - 0,128,255".
 inline std::string PaletteLabel(const ColorEntry& color) {
-  return color.ColorName + " - " + std::to_string(color.Red) + "," + std::to_string(color.Green) + "," +
-         std::to_string(color.Blue);
+  return Joined({color.ColorName, " - ", std::to_string(color.Red), ",", std::to_string(color.Green), ",",
+                 std::to_string(color.Blue)});
 }
 
 // Red, green and blue as a label tells them, cut to 0 to 255; nothing for a text that isn't one.

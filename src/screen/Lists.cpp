@@ -16,7 +16,11 @@ std::string RowList::Text() const {
   return row_ == kNoRow ? std::string() : rows_[static_cast<std::size_t>(row_)];
 }
 
-void RowList::AddRow(std::string text) { AddRows({std::move(text)}); }
+void RowList::AddRow(std::string text) {
+  std::vector<std::string> one;
+  one.push_back(std::move(text));
+  AddRows(std::move(one));
+}
 
 void RowList::AddRows(std::vector<std::string> texts) {
   if (texts.empty()) return;

@@ -9,8 +9,6 @@ namespace {
 
 constexpr std::size_t kNowhere = std::string_view::npos;
 
-// Few letters, with capitals, an umlaut in both forms and what lies around the letters.
-
 TEST(TextTest, BlanksAreCutAtBothEndsOnly) {
   EXPECT_EQ(TrimBlanks("   a  b "), "a  b");
   EXPECT_EQ(TrimBlanks("ab"), "ab");
@@ -21,6 +19,13 @@ TEST(TextTest, BlanksAreCutAtBothEndsOnly) {
 TEST(TextTest, NothingButTheBlankIsCut) {
   EXPECT_EQ(TrimBlanks(" \t a \r\n"), "\t a \r\n");
   EXPECT_EQ(TrimBlanks("\xA0x\xA0"), "\xA0x\xA0");
+}
+
+TEST(TextTest, JoinedTextsTakeNoMoreRoomThanTheyNeed) {
+  const std::string part(1000, 'x');
+  EXPECT_EQ(Joined({part, " - ", part}), part + " - " + part);
+  EXPECT_LT(Joined({part, " - ", part}).capacity(), 2 * part.size() + 100);
+  EXPECT_EQ(Joined({}), "");
 }
 
 TEST(TextTest, FoldingTurnsAllCapitalsOfTheCodePageIntoSmallLetters) {
