@@ -22,6 +22,10 @@ foreach(ENTRY IN LISTS BESIDE_THE_PROGRAM)
   endif()
 endforeach()
 
+# What Qt itself says, in every language that it speaks: a package of its own on Debian.
+find_path(QT_TRANSLATIONS qtbase_de.qm PATHS /usr PATH_SUFFIXES share/qt6/translations NO_CMAKE_FIND_ROOT_PATH)
+file(GLOB TRANSLATIONS ${QT_TRANSLATIONS}/qtbase_*.qm)
+install(FILES ${TRANSLATIONS} DESTINATION ${PROGRAM_FOLDER}/translations)
 install(DIRECTORY samples DESTINATION ${PROGRAM_FOLDER})
 
 if(WHEELWRIGHT_EDITOR)

@@ -2,7 +2,7 @@
 # they come onto the machine.
 
 declare -A PACKAGES=(
-  [build]="g++ cmake ninja-build qt6-base-dev nlohmann-json3-dev fonts-dejavu-core"
+  [build]="g++ cmake ninja-build qt6-base-dev qt6-translations-l10n nlohmann-json3-dev fonts-dejavu-core"
   [test]="clang libclang-rt-dev lld libgtest-dev librapidcheck-dev clang-format clang-tidy python3 ccache"
   [bench]="libbenchmark-dev mawk xvfb"
   [coverage]="llvm gcovr"

@@ -68,9 +68,12 @@ void ChooseLanguage(Session& session) {
 }
 
 void LoadChosenLanguage(Session& session) {
-  const std::string file =
-      session.vars.AppPath + ToUnicode(session.main.cmbSprache.Text()) + std::string(kExtension);
-  if (session.files.Exists(file)) ReadLanguage(session.files.Read(file), session.vars.Lang);
+  const std::string language = ToUnicode(session.main.cmbSprache.Text());
+  const std::string file = session.vars.AppPath + language + std::string(kExtension);
+  if (session.files.Exists(file)) {
+    ReadLanguage(session.files.Read(file), session.vars.Lang);
+    session.desktop.SetLanguage(language);
+  }
   ApplyLanguage(session);
 }
 

@@ -54,6 +54,10 @@ class Desktop {
   // The natural size of a picture file; nothing if it can't be read as a picture.
   virtual std::optional<PictureSize> SizeOfPicture(const std::string& file) = 0;
 
+  // The desktop's own words, as on the buttons of boxes, come in this language from now on, if it
+  // speaks it. The name is the language's own: "Deutsch".
+  virtual void SetLanguage(const std::string& name) = 0;
+
   // Ends the program once the handler that asks for it has returned.
   virtual void EndProgram() = 0;
 };

@@ -106,9 +106,11 @@ TEST(Language, ANameBeyondAsciiIsShownInTheCodePageAndFoundAgain) {
                                              "ais"}));
   s.main.cmbSprache.ChooseByHand(1);
   EXPECT_EQ(Entry(s, 0), "f");
-  EXPECT_EQ(s.settings.Get("Settings", "Language"),
-            "Fran\xC3\xA7"
-            "ais");
+  const std::string chosen =
+      "Fran\xC3\xA7"
+      "ais";
+  EXPECT_EQ(s.settings.Get("Settings", "Language"), chosen);
+  EXPECT_EQ(s.desktop.language, chosen);
 }
 
 TEST(Language, AFileOf222LinesFailsOnTheLastLine) {
@@ -130,6 +132,7 @@ TEST(Language, AFileThatVanishedLeavesTheTableAndIsNotReported) {
   s.main.cmbSprache.ChooseByHand(1);
   EXPECT_EQ(s.main.FrameSprache.Caption(), "e");
   EXPECT_EQ(s.settings.Get("Settings", "Language"), "Zwei");
+  EXPECT_EQ(s.desktop.language, "Eins");
   EXPECT_TRUE(s.desktop.shown.empty());
 }
 

@@ -28,6 +28,7 @@ class FakeDesktop : public Desktop {
   void SetPointer(Pointer itsPointer) override;
   void OpenWithShell(const std::string& file) override { shown.push_back("shell: " + file); }
   std::optional<PictureSize> SizeOfPicture(const std::string& file) override;
+  void SetLanguage(const std::string& name) override { language = name; }
   void EndProgram() override { shown.emplace_back("end"); }
 
   // Prepared by the test. A question or dialog without an answer fails the test.
@@ -38,6 +39,7 @@ class FakeDesktop : public Desktop {
   // What happened, in order: "information: ...", "error: ...", "question: ...", "yesno: ...",
   // "open", "save", "hourglass", "normal", "shell: ...", "end".
   std::vector<std::string> shown;
+  std::string language;
   // The dialogs as they came up.
   std::vector<FileDialog> dialogs;
 

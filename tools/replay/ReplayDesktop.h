@@ -33,6 +33,7 @@ class ReplayDesktop : public Desktop {
   void SetPointer(Pointer pointer) override;
   void OpenWithShell(const std::string& file) override;
   std::optional<PictureSize> SizeOfPicture(const std::string& file) override;
+  void SetLanguage(const std::string& /*name*/) override {}
   void EndProgram() override { endWasAsked_ = true; }
 
  private:

@@ -5,6 +5,8 @@
 #include "forms/qt/widgets/ShownText.h"
 
 #include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
 
 namespace wheelwright {
 namespace {
@@ -48,7 +50,18 @@ std::string DescriptionInFlight() {
   }
 }
 
+// The first of the toolkit's locales whose language calls itself so.
+QLocale LocaleNamed(const QString& language) {
+  for (const QLocale& locale :
+       QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyTerritory)) {
+    if (locale.nativeLanguageName().compare(language, Qt::CaseInsensitive) == 0) return locale;
+  }
+  return QLocale::c();
+}
+
 }  // namespace
+
+QtDesktop::QtDesktop() { QCoreApplication::installTranslator(&words_); }
 
 void QtDesktop::ShowInformation(const std::string& text) {
   ShowBox(QMessageBox::Information, text, QMessageBox::Ok);
@@ -80,6 +93,13 @@ std::optional<PictureSize> QtDesktop::SizeOfPicture(const std::string& file) {
   const QImage picture = ReadPicture(file);
   if (picture.isNull()) return std::nullopt;
   return PictureSize{picture.width(), picture.height()};
+}
+
+// The translations of the toolkit lie beside the program, or where the system has them.
+void QtDesktop::SetLanguage(const std::string& name) {
+  const QLocale locale = LocaleNamed(QString::fromStdString(name));
+  if (words_.load(locale, "qtbase", "_", QCoreApplication::applicationDirPath() + "/translations")) return;
+  static_cast<void>(words_.load(locale, "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath)));
 }
 
 void QtDesktop::EndProgram() {

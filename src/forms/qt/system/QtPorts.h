@@ -9,11 +9,14 @@
 #include <QMessageBox>
 #include <QSettings>
 #include <QString>
+#include <QTranslator>
 
 namespace wheelwright {
 
 class QtDesktop : public Desktop {
  public:
+  QtDesktop();
+
   void ShowInformation(const std::string& text) override;
   void ShowError(const std::string& text) override;
   bool AskQuestion(const std::string& text) override;
@@ -23,6 +26,7 @@ class QtDesktop : public Desktop {
   void SetPointer(Pointer pointer) override;
   void OpenWithShell(const std::string& file) override;
   std::optional<PictureSize> SizeOfPicture(const std::string& file) override;
+  void SetLanguage(const std::string& name) override;
   void EndProgram() override;
 
   // Whether the program has been asked to end; the event loop, if it runs, ends soon.
@@ -30,6 +34,8 @@ class QtDesktop : public Desktop {
 
  private:
   bool ended_ = false;
+  // What the toolkit itself says; without a text it stays with its English.
+  QTranslator words_;
   // Where the last file was chosen; the next dialog without a file of its own starts there.
   QString lastDirectory_;
 };

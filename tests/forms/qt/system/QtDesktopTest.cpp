@@ -76,6 +76,24 @@ TEST(QtDesktopTest, EnterAndEscapeAnswerEveryQuestionWithNo) {
   }
 }
 
+TEST(QtDesktopTest, TheToolkitSpeaksTheChosenLanguageWhereItCan) {
+  QtDesktop desktop;
+  const std::vector<QStringList> languages = {{"Deutsch", "&Ja", "&Nein"},   {"Español", "&Sí", "&No"},
+                                              {"Français", "&Oui", "&Non"},  {"Italiano", "&Sì", "&No"},
+                                              {"No such", "&Yes", "&No"},    {"Nederlands", "&Ja", "&Nee"},
+                                              {"Português", "&Sim", "&Não"}, {"English", "&Yes", "&No"}};
+  for (const QStringList& language : languages) {
+    desktop.SetLanguage(language[0].toStdString());
+    const ModalHand hand([&](QWidget& modal) {
+      const auto& box = static_cast<QMessageBox&>(modal);
+      EXPECT_EQ(box.button(QMessageBox::Yes)->text(), language[1]);
+      EXPECT_EQ(box.button(QMessageBox::No)->text(), language[2]);
+      modal.close();
+    });
+    desktop.AskQuestion("");
+  }
+}
+
 TEST(QtDesktopTest, WithoutAnActiveWindowABoxBelongsToTheOneThatOwnsTheOthersIfItIsShown) {
   QWidget owner;
   QWidget owned(&owner, Qt::Window);
