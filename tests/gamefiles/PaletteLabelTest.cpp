@@ -6,9 +6,9 @@
 namespace wheelwright::testing {
 namespace {
 
-using Components = std::array<int, 3>;
+using Colors = std::vector<Rgb>;
 
-ColorEntry Color(const std::string& name, Components color) {
+ColorEntry Color(const std::string& name, Rgb color) {
   ColorEntry entry;
   entry.ColorName = name;
   entry.Red = static_cast<std::int16_t>(color[0]);
@@ -23,21 +23,39 @@ TEST(PaletteLabelTest, ALabelIsTheNameAndTheThreeNumbers) {
 
 TEST(PaletteLabelTest, ALabelTellsItsColorWhateverTheNameHolds) {
   for (const char* name : {"Color94", "Color 94", "", " - 1,2,3", "1,2,3 - ", "a\tb", "9"}) {
-    EXPECT_EQ(ColorInLabel(PaletteLabel(Color(name, {7, 128, 255}))), Components({7, 128, 255})) << name;
+    EXPECT_EQ(ColorsInLabel(PaletteLabel(Color(name, {7, 128, 255}))), Colors({{7, 128, 255}})) << name;
   }
 }
 
 TEST(PaletteLabelTest, ToldComponentsAreCutToTheRangeOfAColor) {
-  EXPECT_EQ(ColorInLabel("x - -5,300,32767"), Components({0, 255, 255}));
-  EXPECT_EQ(ColorInLabel("x - -32768,0,256"), Components({0, 0, 255}));
+  EXPECT_EQ(ColorsInLabel("x - -5,300,32767"), Colors({{0, 255, 255}}));
+  EXPECT_EQ(ColorsInLabel("x - -32768,0,256"), Colors({{0, 0, 255}}));
 }
 
 TEST(PaletteLabelTest, AnyOtherTextTellsNoColor) {
   for (const char* text :
        {"", "black", "1,2,3", "x - ", "x - 1", "x - 1,2", "x - 1,2,", "x - 1,2,3,4", "x - 1,2,3 ",
         "x - 1;2;3", "x - 1,,3", "x - 1,2,red", "x - 1,2,3red", "x - +1,2,3", "x - 1,2,99999999999"}) {
-    EXPECT_EQ(ColorInLabel(text), std::nullopt) << text;
+    EXPECT_EQ(ColorsInLabel(text), Colors()) << text;
   }
+}
+
+const std::vector<std::string> kPalette = {"black - 0,0,0", "sky - 1,2,3", "sky - blue - 4,5,6",
+                                           "sky - 7,8,9", " - 300,0,-1"};
+
+TEST(PaletteLabelTest, APairTellsTheColorsOfItsTwoNames) {
+  EXPECT_EQ(ColorsInPair("sky - black", kPalette), (Colors{{7, 8, 9}, {0, 0, 0}}));
+  EXPECT_EQ(ColorsInPair("black - black", kPalette), (Colors{{0, 0, 0}, {0, 0, 0}}));
+  EXPECT_EQ(ColorsInPair("sky - blue - sky", kPalette), (Colors{{4, 5, 6}, {7, 8, 9}}));
+  EXPECT_EQ(ColorsInPair("black - sky - blue", kPalette), (Colors{{0, 0, 0}, {4, 5, 6}}));
+  EXPECT_EQ(ColorsInPair(" - sky", kPalette), (Colors{{255, 0, 0}, {7, 8, 9}}));
+}
+
+TEST(PaletteLabelTest, APairOfNamesThatThePaletteLacksTellsNone) {
+  for (const char* row : {"", "sky", "sky - red", "red - sky", "sky- black", "Sky - black", "black"}) {
+    EXPECT_EQ(ColorsInPair(row, kPalette), Colors()) << row;
+  }
+  EXPECT_EQ(ColorsInPair("sky - black", {}), Colors());
 }
 
 }  // namespace

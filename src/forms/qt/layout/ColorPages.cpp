@@ -38,7 +38,7 @@ void AddBar(Label& label, ScrollBar& bar, Label& value, QGridLayout& grid, QWidg
 QLayout* ColorList(FrmMain& main, TabGroupMirror& group, QWidget& page, MirrorSet& mirrors) {
   auto* column = new QVBoxLayout;
   ListBoxMirror& colors = mirrors.Add(main.lstColors, &page);
-  colors.ShowColors(ColorInLabel);
+  colors.ShowColors(ColorsInLabel);
   QWidget& list = colors.Widget();
   group.Name(kPaletteTab, list);
   column->addWidget(&list);
@@ -77,6 +77,8 @@ void BuildPalette(FrmMain& main, TabGroupMirror& group, QWidget& page, MirrorSet
 
 QWidget* PairList(FrmMain& main, QWidget& page, MirrorSet& mirrors) {
   QWidget* frame = Framed(main.frameColors, main.lstCarColors, page, mirrors);
+  static_cast<ListBoxMirror&>(mirrors.Of(main.lstCarColors))
+      .ShowColors([&main](const std::string& row) { return ColorsInPair(row, main.lstColors.Rows()); }, 2);
   QWidget& remove = mirrors.Add(main.cmdRemColor, frame).Widget();
   static_cast<QVBoxLayout*>(frame->layout())->addWidget(&remove, 0, Qt::AlignRight);
   return frame;
@@ -87,7 +89,7 @@ void AddPick(Label& label, PickList& pick, Swatch& swatch, QGridLayout& grid, QW
   constexpr int kCharactersShown = 22;
   LabelMirror& name = mirrors.Add(label, &frame);
   PickListMirror& colors = mirrors.Add(pick, &frame);
-  colors.ShowColors(ColorInLabel);
+  colors.ShowColors(ColorsInLabel);
   QComboBox& input = colors.Widget();
   input.setMinimumContentsLength(kCharactersShown);
   PlaceRow(grid, name, input, mirrors.Add(swatch, &frame).Widget());

@@ -4,6 +4,8 @@
 #include "forms/qt/widgets/ShownText.h"
 #include "screen/MainWindow.h"
 
+#include <algorithm>
+
 #include <QEvent>
 #include <QSignalBlocker>
 #include <QTabBar>
@@ -88,6 +90,7 @@ PictureFrameMirror::PictureFrameMirror(Frame& frame, EventEdge& edge, QWidget* p
 ButtonMirror::ButtonMirror(Button& button, EventEdge& edge, QWidget* parent)
     : MirrorOf(button, edge, *new QPushButton(parent)) {
   widget_.setAutoDefault(false);
+  widget_.setMinimumHeight(std::max(widget_.sizeHint().height(), kLeastHeight));
   QObject::connect(&widget_, &QPushButton::clicked, Receiver(),
                    [this] { ByHand([this] { plain_.ClickByHand(); }); });
   FollowAll();

@@ -3,6 +3,7 @@
 #include "forms/qt/widgets/Inputs.h"
 #include "forms/qt/widgets/ShownText.h"
 
+#include <algorithm>
 #include <limits>
 
 #include <QSignalBlocker>
@@ -96,6 +97,7 @@ ScrollBarMirror::ScrollBarMirror(ScrollBar& bar, EventEdge& edge, QWidget* paren
   constexpr int kPage = 16;
   widget_.setRange(ScrollBar::kMinimum, ScrollBar::kMaximum);
   widget_.setPageStep(kPage);
+  widget_.setMinimumHeight(std::max(widget_.sizeHint().height(), kLeastHeight));
   FollowAll();
   QObject::connect(&widget_, &QScrollBar::valueChanged, Receiver(), [this](int value) {
     ByHand([&] { plain_.MoveByHand(value); });

@@ -16,10 +16,10 @@ namespace wheelwright {
 template <class ListType, class ViewType>
 class RowsMirror : public MirrorOf<ListType, ViewType> {
  public:
-  // Shows the colours that the rows tell of beside them.
-  void ShowColors(ColorOfText colorOf) {
-    this->widget_.setIconSize(SwatchIconSize(this->widget_));
-    model_.ShowColors(colorOf);
+  // Shows the colours that the rows tell of beside them, so many in each row.
+  void ShowColors(ColorsOfText colorsOf, int inEachRow = 1) {
+    this->widget_.setIconSize(SwatchIconSize(this->widget_, inEachRow));
+    model_.ShowColors(std::move(colorsOf));
   }
 
  protected:

@@ -37,7 +37,7 @@ class MirrorSet {
   }
 
   // The mirror of a control that has been added.
-  const Mirror& Of(const Control& control) const { return *mirrors_.at(&control); }
+  Mirror& Of(const Control& control) const { return *mirrors_.at(&control); }
 
  private:
   template <class MirrorType, class ControlType>

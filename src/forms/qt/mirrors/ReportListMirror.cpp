@@ -86,6 +86,7 @@ class ReportView : public QTreeView {
     setRootIsDecorated(false);
     setItemsExpandable(false);
     setUniformRowHeights(true);
+    setItemDelegate(new RowDelegate(this));
     setEditTriggers(NoEditTriggers);
     setSelectionMode(ExtendedSelection);
     new FocusRing(*this);

@@ -30,10 +30,10 @@ QVariant RowModel::data(const QModelIndex& index, int role) const {
 }
 
 QVariant RowModel::Decoration(const std::string& text) const {
-  const auto color = colorOf_ == nullptr ? std::nullopt : colorOf_(text);
-  if (!color) return {};
-  const auto& [red, green, blue] = *color;
-  return SwatchIcon({red, green, blue});
+  if (!colorsOf_) return {};
+  std::vector<QColor> colors;
+  for (const auto& [red, green, blue] : colorsOf_(text)) colors.emplace_back(red, green, blue);
+  return colors.empty() ? QVariant() : SwatchIcon(colors);
 }
 
 void RowModel::Follow(Aspect aspect) {
@@ -48,6 +48,7 @@ void RowModel::Follow(Aspect aspect) {
 
 RowView::RowView(QAbstractItemView::SelectionMode mode, QWidget* parent) : QListView(parent) {
   setSelectionMode(mode);
+  setItemDelegate(new RowDelegate(this));
   setEditTriggers(NoEditTriggers);
   setUniformItemSizes(true);
   new FocusRing(*this);

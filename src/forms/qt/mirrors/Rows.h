@@ -1,11 +1,10 @@
 // The rows of a plain list as Qt's views want them, and the view of a list box.
 #pragma once
 
+#include "gamefiles/PaletteLabel.h"
 #include "screen/Lists.h"
 
-#include <array>
 #include <functional>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,8 +13,8 @@
 
 namespace wheelwright {
 
-// The colour that a row's text tells of, if it does.
-using ColorOfText = std::optional<std::array<int, 3>> (*)(const std::string& text);
+// The colours that a row's text tells of, none or more.
+using ColorsOfText = std::function<std::vector<Rgb>(const std::string& text)>;
 
 // Reads the rows straight from the list and never copies them.
 class RowModel : public QAbstractListModel {
@@ -26,7 +25,7 @@ class RowModel : public QAbstractListModel {
   QVariant data(const QModelIndex& index, int role) const override;
 
   // Shows the colours that the rows tell of beside them.
-  void ShowColors(ColorOfText colorOf) { colorOf_ = colorOf; }
+  void ShowColors(ColorsOfText colorsOf) { colorsOf_ = std::move(colorsOf); }
 
   // Tells the views that the list's rows have changed as a whole, or texts of rows have.
   void Follow(Aspect aspect);
@@ -35,7 +34,7 @@ class RowModel : public QAbstractListModel {
   QVariant Decoration(const std::string& text) const;
 
   const RowList& list_;
-  ColorOfText colorOf_ = nullptr;
+  ColorsOfText colorsOf_;
 };
 
 // A list view in which what is chosen is what is selected, and never just the row with the cursor.

@@ -3,7 +3,6 @@
 #include <QEvent>
 #include <QListView>
 #include <QPainter>
-#include <QStyledItemDelegate>
 
 namespace wheelwright {
 
@@ -43,12 +42,11 @@ ValueBar::ValueBar(QWidget* parent) : QScrollBar(Qt::Horizontal, parent) {
   new FocusRing(*this);
 }
 
-// A menu's delegate would read marks and tabs in the texts of rows.
 PickBox::PickBox(QWidget* parent) : QComboBox(parent) {
-  constexpr int kRowsDropped = 20;
+  constexpr int kRowsDropped = 16;
   constexpr int kCharactersShown = 14;
   setStyle(&style_);
-  setItemDelegate(new QStyledItemDelegate(this));
+  setItemDelegate(new RowDelegate(this));
   setMaxVisibleItems(kRowsDropped);
   setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
   setMinimumContentsLength(kCharactersShown);

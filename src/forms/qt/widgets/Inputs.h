@@ -6,8 +6,22 @@
 #include <QFocusFrame>
 #include <QProxyStyle>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
 
 namespace wheelwright {
+
+// Rows of lists are this high at least, buttons and bars that much, so that no steady hand is needed.
+constexpr int kLeastRow = 20;
+constexpr int kLeastHeight = 24;
+
+// Shows the texts of rows as they are: a menu's delegate would read marks and tabs in them.
+class RowDelegate : public QStyledItemDelegate {
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    return QStyledItemDelegate::sizeHint(option, index).expandedTo({0, kLeastRow});
+  }
+};
 
 // A click asks only; the plain control says what state it gives.
 class AskingCheckBox : public QCheckBox {

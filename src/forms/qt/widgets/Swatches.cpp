@@ -10,18 +10,27 @@ namespace {
 
 constexpr int kMargin = 2;
 
+void PaintSwatch(QPainter& painter, const QRect& place, const QColor& color) {
+  constexpr float kEdgeOpacity = 0.5F;
+  QColor edge = QGuiApplication::palette().color(QPalette::Text);
+  edge.setAlphaF(kEdgeOpacity);
+  if (color.isValid()) painter.fillRect(place, color);
+  painter.setPen(edge);
+  // On a fine screen a line is several dots wide, all of them inside.
+  painter.drawRect(QRectF(place).adjusted(0.5, 0.5, -0.5, -0.5));
+}
+
 class SwatchEngine : public QIconEngine {
  public:
-  explicit SwatchEngine(const QColor& color) : color_(color) {}
+  explicit SwatchEngine(std::vector<QColor> colors) : colors_(std::move(colors)) {}
 
   void paint(QPainter* painter, const QRect& rect, QIcon::Mode /*mode*/, QIcon::State /*state*/) override {
-    constexpr float kEdgeOpacity = 0.5F;
-    QColor edge = QGuiApplication::palette().color(QPalette::Text);
-    edge.setAlphaF(kEdgeOpacity);
-    const QRect square = rect.adjusted(kMargin, kMargin, -kMargin, -kMargin);
-    painter->fillRect(square, color_);
-    painter->setPen(edge);
-    painter->drawRect(square.adjusted(0, 0, -1, -1));
+    const int side = rect.width() / static_cast<int>(colors_.size());
+    QRect square(rect.left(), rect.top(), side, rect.height());
+    for (const QColor& color : colors_) {
+      PaintSwatch(*painter, square.adjusted(kMargin, kMargin, -kMargin, -kMargin), color);
+      square.translate(side, 0);
+    }
   }
 
   QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
@@ -32,15 +41,13 @@ class SwatchEngine : public QIconEngine {
     return pixmap;
   }
 
-  QIconEngine* clone() const override { return new SwatchEngine(color_); }
+  QIconEngine* clone() const override { return new SwatchEngine(colors_); }
 
  private:
-  QColor color_;
+  std::vector<QColor> colors_;
 };
 
 }  // namespace
-
-ColorArea::ColorArea(QWidget* parent) : QFrame(parent) { setFrameStyle(QFrame::Panel | QFrame::Sunken); }
 
 void ColorArea::Fill(const QColor& color) {
   color_ = color;
@@ -52,16 +59,16 @@ QSize ColorArea::sizeHint() const {
   return {side, side};
 }
 
-void ColorArea::paintEvent(QPaintEvent* event) {
-  if (color_.isValid()) QPainter(this).fillRect(contentsRect(), color_);
-  QFrame::paintEvent(event);
+void ColorArea::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  PaintSwatch(painter, rect(), color_);
 }
 
-QIcon SwatchIcon(const QColor& color) { return QIcon(new SwatchEngine(color)); }
+QIcon SwatchIcon(const std::vector<QColor>& colors) { return QIcon(new SwatchEngine(colors)); }
 
-QSize SwatchIconSize(const QWidget& list) {
+QSize SwatchIconSize(const QWidget& list, int colors) {
   const int side = list.fontMetrics().height() + kMargin;
-  return {side, side};
+  return {colors * side, side};
 }
 
 }  // namespace wheelwright

@@ -1,17 +1,19 @@
-// Colours on screen: a framed area, and the small square beside a colour's name.
+// Colours on screen, each with an edge: an area, and the small squares beside a name.
 #pragma once
 
+#include <vector>
+
 #include <QColor>
-#include <QFrame>
 #include <QIcon>
 #include <QSize>
+#include <QWidget>
 
 namespace wheelwright {
 
-// A framed area in one colour, plain background while there is none.
-class ColorArea : public QFrame {
+// An area in one colour, plain background while there is none.
+class ColorArea : public QWidget {
  public:
-  explicit ColorArea(QWidget* parent);
+  using QWidget::QWidget;
 
   void Fill(const QColor& color);
 
@@ -25,11 +27,12 @@ class ColorArea : public QFrame {
   QColor color_;
 };
 
-// Sharp at every size, with an edge that stands out from light and dark backgrounds.
-QIcon SwatchIcon(const QColor& color);
+// A square for each colour, side by side. Sharp at every size, with an edge that stands out from light
+// and dark backgrounds.
+QIcon SwatchIcon(const std::vector<QColor>& colors);
 
 // The size for a list's rows: a little more than the letters beside it, so that the squares of two
 // rows don't touch.
-QSize SwatchIconSize(const QWidget& list);
+QSize SwatchIconSize(const QWidget& list, int colors = 1);
 
 }  // namespace wheelwright

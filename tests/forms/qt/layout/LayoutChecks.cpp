@@ -10,6 +10,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QStyleOptionButton>
 #include <QStyleOptionComboBox>
 #include <QTabBar>
@@ -127,6 +128,21 @@ void ExpectRowsInOrder(const View& view) {
   ForTwoRows(kDefinitionFields, view, expectBelow);
 }
 
+// So that no steady hand is needed.
+void ExpectLeastHeights(const View& view) {
+  for (const Control* control : view.showing) {
+    QWidget& widget = view.Of(*control);
+    const auto* box = qobject_cast<QComboBox*>(&widget);
+    const auto* rows = box == nullptr ? qobject_cast<QAbstractItemView*>(&widget) : box->view();
+    if (rows != nullptr && rows->model()->rowCount() > 0) {
+      EXPECT_GE(rows->sizeHintForRow(0), 20) << control->Name();
+    }
+    if (qobject_cast<QPushButton*>(&widget) != nullptr || qobject_cast<QScrollBar*>(&widget) != nullptr) {
+      EXPECT_GE(widget.height(), 24) << control->Name();
+    }
+  }
+}
+
 }  // namespace
 
 std::set<int> RowDistances(const View& view) {
@@ -143,6 +159,7 @@ const std::vector<ViewCheck> kLayoutChecks = {
     {"no caption is cut off", ExpectWholeCaptions},
     {"no two controls lie over each other, and all inside their window", ExpectControlsApart},
     {"a letter's height is free around what stands on a tab", ExpectMargins},
+    {"rows of lists, buttons and bars are high enough", ExpectLeastHeights},
     {"the rows of a tab stand in their order", ExpectRowsInOrder},
 };
 

@@ -66,10 +66,39 @@ TEST_F(SwatchesTest, AddedAndDeletedColorsHaveTheirOwn) {
   EXPECT_EQ(BesideThePalette(), (QStringList{"#c86432", "#0080ff"}));
 }
 
-TEST_F(SwatchesTest, OtherListsShowNone) {
-  EXPECT_EQ(Beside(*Of<QListView>(main.lstCarColors).model()), QStringList{"none"});
-  EXPECT_EQ(BesideThePick(main.cmbAutos), QStringList{"none"});
+TEST_F(SwatchesTest, APairShowsItsTwoColors) {
+  const auto& list = Of<QListView>(main.lstCarColors);
+  const QModelIndex row = list.model()->index(0, 0);
+  EXPECT_EQ(row.data().toString(), "black - brown");
+  const QImage image = row.data(Qt::DecorationRole).value<QIcon>().pixmap(QSize(64, 32), 1).toImage();
+  EXPECT_EQ(image.pixelColor(16, 16).name(), "#010203");
+  EXPECT_EQ(image.pixelColor(48, 16).name(), "#c86432");
+  EXPECT_EQ(image.pixelColor(32, 16).alpha(), 0) << "the two squares don't touch";
+  EXPECT_EQ(list.iconSize(), SwatchIconSize(list, 2));
 }
+
+TEST_F(SwatchesTest, APairWhoseColorIsGoneShowsNone) {
+  main.lstColors.Choose(0);
+  test.desktop.answers = {true};
+  main.cmdDeleteColor.ClickByHand();
+  EXPECT_EQ(Beside(*Of<QListView>(main.lstCarColors).model()), QStringList{"none"});
+}
+
+TEST_F(SwatchesTest, AnAreaHasAllItsEdges) {
+  main.lstColors.Choose(1);
+  Settle();
+  const QImage image = windows.Of(main.picFarbe).grab().toImage();
+  const QPoint last(image.width() - 1, image.height() - 1);
+  const QPoint middle = last / 2;
+  EXPECT_EQ(image.pixelColor(middle).name(), "#c86432");
+  for (const QPoint edge : {QPoint(0, middle.y()), QPoint(last.x(), middle.y()), QPoint(middle.x(), 0),
+                            QPoint(middle.x(), last.y())}) {
+    EXPECT_LT(image.pixelColor(edge).lightness(), image.pixelColor(middle).lightness() - 20)
+        << edge.x() << ", " << edge.y();
+  }
+}
+
+TEST_F(SwatchesTest, OtherListsShowNone) { EXPECT_EQ(BesideThePick(main.cmbAutos), QStringList{"none"}); }
 
 TEST_F(SwatchesTest, TheyAreAsLargeAsTheLettersBesideThem) {
   for (QSize size : {Of<QListView>(main.lstColors).iconSize(), Of<QComboBox>(main.cmbColor1).iconSize()}) {
@@ -81,7 +110,7 @@ TEST_F(SwatchesTest, TheyAreAsLargeAsTheLettersBesideThem) {
 
 // A black square on a black list and a white one on a white list are seen by their edge.
 TEST_F(SwatchesTest, TheSquareHasAnEdgeAndKeepsClearOfTheNext) {
-  const QImage image = Painted(SwatchIcon(Qt::white), 16);
+  const QImage image = Painted(SwatchIcon({QColor(Qt::white)}), 16);
   EXPECT_EQ(image.pixelColor(0, 8).alpha(), 0);
   EXPECT_EQ(image.pixelColor(15, 8).alpha(), 0);
   for (const int side : {2, 13}) {
