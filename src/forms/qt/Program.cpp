@@ -10,6 +10,8 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QScreen>
+#include <QStyle>
 
 namespace wheelwright {
 namespace {
@@ -34,6 +36,9 @@ int RunProgram() {
   QtEdge edge;
   Session session(desktop, settings, files);
   WindowSet windows(session, edge);
+  QSize room = QGuiApplication::primaryScreen()->availableSize();
+  room.rheight() -= QApplication::style()->pixelMetric(QStyle::PM_TitleBarHeight);
+  windows.FitInto(room);
   WireEvents(session);
   edge.Enter([&] { StartUp(session, ProgramDirectory()); });
   if (edge.HasFailed()) return 1;

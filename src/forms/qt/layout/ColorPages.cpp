@@ -51,6 +51,9 @@ QLayout* ColorList(FrmMain& main, TabGroupMirror& group, QWidget& page, MirrorSe
 
 QLayout* ColorEditor(FrmMain& main, QWidget& page, MirrorSet& mirrors) {
   auto* grid = new QGridLayout;
+  // In characters: the inputs stay in place in most languages.
+  constexpr int kLabelWidth = 10;
+  grid->setColumnMinimumWidth(kLabelColumn, kLabelWidth * page.fontMetrics().averageCharWidth());
   grid->setColumnStretch(kInputColumn, 1);
   grid->setHorizontalSpacing(page.fontMetrics().height());
   grid->setVerticalSpacing(page.fontMetrics().height() / 2);

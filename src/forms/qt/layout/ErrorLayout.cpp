@@ -38,7 +38,7 @@ void LayOutError(FrmError& error, QWidget* window, MirrorSet& mirrors) {
   column->setSpacing(0);
   column->addWidget(&list, 1);
   column->addLayout(bottom);
-  window->resize(kReportSize);
+  window->window()->resize(kReportSize);
 }
 
 }  // namespace wheelwright

@@ -109,7 +109,7 @@ void LayOutExport(FrmExport& exporter, QWidget* window, MirrorSet& mirrors) {
   column->addLayout(grid, 1);
   column->addLayout(BottomRow(exporter, window, mirrors));
   mirrors.Add(exporter.Spez, window);  // hidden for good, it needs no place
-  window->resize(0, 0);
+  window->window()->resize(0, 0);
 }
 
 }  // namespace wheelwright

@@ -12,9 +12,12 @@
 namespace wheelwright {
 namespace {
 
+// In characters: on a wide screen a hint stands beside its input still.
+constexpr int kMostInputWidth = 48;
+
 QGridLayout& GridOf(QWidget& page) {
-  // In characters. Most labels are shorter, so that the inputs stay in place from page to page.
-  constexpr int kLabelWidth = 23;
+  // In characters. No label is longer, so that the inputs stay in place in every language.
+  constexpr int kLabelWidth = 25;
   constexpr int kInputWidth = 24;
   constexpr int kInputShare = 3;
   constexpr int kInfoShare = 2;
@@ -37,6 +40,7 @@ void PlaceRow(QGridLayout& grid, int row, LabelMirror& label, const std::vector<
   for (QWidget* input : inputs) {
     label.Name(*input);
     if (hint != nullptr) hint->Describe(*input);
+    input->setMaximumWidth(kMostInputWidth * input->fontMetrics().averageCharWidth());
     grid.addWidget(input, row, kInputColumn);
   }
   if (hint != nullptr) grid.addWidget(&hint->Widget(), row, kInfoColumn);

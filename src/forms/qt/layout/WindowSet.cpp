@@ -8,11 +8,60 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSessionManager>
 #include <QShortcut>
+#include <QTabBar>
+#include <QTabWidget>
 
 namespace wheelwright {
 namespace {
+
+// What is in a window: all of it in sight, but for a screen that hasn't the room.
+class ContentArea : public QScrollArea {
+ public:
+  explicit ContentArea(QWidget* window) : QScrollArea(window) {
+    setFrameShape(NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    setWidgetResizable(true);
+    setWidget(new QWidget);
+    auto* whole = new QVBoxLayout(window);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addWidget(this);
+  }
+
+  void FitInto(QSize room) {
+    room_ = room;
+    updateGeometry();
+  }
+
+  QSize sizeHint() const override { return widget()->sizeHint().expandedTo(Needed()).boundedTo(room_); }
+  QSize minimumSizeHint() const override { return Needed().boundedTo(room_); }
+
+ protected:
+  bool event(QEvent* event) override {
+    if (event->type() == QEvent::LayoutRequest) updateGeometry();
+    return QScrollArea::event(event);
+  }
+
+ private:
+  // A row of tabs could do with less, by its arrows; only a small screen shall show them.
+  QSize Needed() const {
+    QSize needed = widget()->minimumSizeHint();
+    int least = 0;
+    int whole = 0;
+    for (const auto* tabs : widget()->findChildren<QTabWidget*>()) {
+      least = std::max(least, tabs->minimumSizeHint().width());
+      whole = std::max(whole, tabs->tabBar()->sizeHint().width());
+    }
+    needed.rwidth() += std::max(whole - least, 0);
+    if (needed.height() > room_.height()) needed.rwidth() += verticalScrollBar()->sizeHint().width();
+    return needed;
+  }
+
+  QSize room_{QWIDGETSIZE_MAX, QWIDGETSIZE_MAX};
+};
 
 // What the three real windows have in common: title, coming and going, and the close box.
 class WindowShell : public QWidget {
@@ -67,12 +116,18 @@ WindowSet::WindowSet(Session& session, EventEdge& edge)
       error_(std::make_unique<WindowShell>(session.error, edge, main_.get())),
       exporter_(std::make_unique<WindowShell>(session.exporter, edge, main_.get())),
       mirrors_(edge) {
-  LayOutMain(session.main, main_.get(), mirrors_);
-  LayOutError(session.error, error_.get(), mirrors_);
-  LayOutExport(session.exporter, exporter_.get(), mirrors_);
+  LayOutMain(session.main, (new ContentArea(main_.get()))->widget(), mirrors_);
+  LayOutError(session.error, (new ContentArea(error_.get()))->widget(), mirrors_);
+  LayOutExport(session.exporter, (new ContentArea(exporter_.get()))->widget(), mirrors_);
   QObject::connect(qApp, &QGuiApplication::commitDataRequest, main_.get(), [this](QSessionManager& ending) {
     if (ending.allowsInteraction() && !main_->close()) ending.cancel();
   });
+}
+
+void WindowSet::FitInto(QSize room) {
+  for (const QWidget* window : {main_.get(), error_.get(), exporter_.get()}) {
+    window->findChild<ContentArea*>(QString(), Qt::FindDirectChildrenOnly)->FitInto(room);
+  }
 }
 
 QWidget& WindowSet::Of(const Window& window) const {

@@ -13,6 +13,9 @@ class WindowSet {
   // Needs the toolkit's application object. The session and the edge outlive the windows.
   WindowSet(Session& session, EventEdge& edge);
 
+  // No window asks for more room than this: what is in it can be scrolled then.
+  void FitInto(QSize room);
+
   // The real window of a plain one of this session.
   QWidget& Of(const Window& window) const;
 

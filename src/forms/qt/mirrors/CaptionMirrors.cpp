@@ -100,7 +100,7 @@ void ButtonMirror::FollowContent() { widget_.setText(ShownCaption(plain_.Caption
 
 TabGroupMirror::TabGroupMirror(TabGroup& group, EventEdge& edge, QWidget* parent)
     : MirrorOf(group, edge, *new QTabWidget(parent)), spoken_(group.Tabs().size()) {
-  widget_.setUsesScrollButtons(false);
+  widget_.setUsesScrollButtons(true);
   for (std::size_t tab = 0; tab < spoken_.size(); ++tab) widget_.addTab(new QWidget, "");
   new WheelGuard(*widget_.tabBar());
   new FocusRing(*widget_.tabBar());

@@ -93,13 +93,20 @@ TEST_F(MainDesignTest, TheRowsOfAPageAreOfOneHeightAndItsInputsOfOneWidth) {
   const int character = windows.Of(main).fontMetrics().averageCharWidth();
   const QRect label = Place(main.txtGewicht.label);
   const QRect input = Place(main.txtGewicht);
-  EXPECT_EQ(input.left(), label.left() + 23 * character + letter);
+  EXPECT_EQ(input.left(), label.left() + 25 * character + letter);
   EXPECT_GE(input.width(), 24 * character);
   EXPECT_NEAR(2 * input.width(), 3 * Place(*main.txtGewicht.hint).width(), letter);
   EXPECT_EQ(Beside(main.txtGewicht, *main.txtGewicht.hint), letter);
   EXPECT_EQ(Place(main.txtPedSeat.label).top() - label.top(),
             Of<QComboBox>(main.cmbFrontLichter).sizeHint().height() + letter / 2);
   EXPECT_EQ(Place(main.cmbFrontLichter).width(), input.width());
+}
+
+TEST_F(MainDesignTest, OnAWideScreenAHintStaysBesideItsInput) {
+  windows.Of(main).resize(3840, 2160);
+  OpenOnTab(kGeneralTab);
+  EXPECT_LE(Place(main.txtGewicht).width(), 48 * windows.Of(main).fontMetrics().averageCharWidth());
+  EXPECT_EQ(Beside(main.txtGewicht, *main.txtGewicht.hint), letter);
 }
 
 TEST_F(MainDesignTest, TheButtonsOfTheVehiclesAreAQuarterOfThePageEach) {

@@ -128,6 +128,19 @@ void ExpectRowsInOrder(const View& view) {
   ForTwoRows(kDefinitionFields, view, expectBelow);
 }
 
+// No label is so long that it moves its input: those of a page stand where they stand in other languages.
+void ExpectInputsInPlace(const View& view) {
+  const auto expectInPlace = [&](const Control& label, int characters) {
+    const auto& name = static_cast<const QLabel&>(view.Of(label));
+    if (!name.isVisible()) return;
+    const int room = characters * name.fontMetrics().averageCharWidth() + name.fontMetrics().height();
+    EXPECT_EQ(PlaceOf(*name.buddy()).left(), PlaceOf(name).left() + room) << label.Name();
+  };
+  for (const auto& field : kHandlingFields) expectInPlace(LabelsOf(view.main, field).label, 25);
+  for (const auto& field : kDefinitionFields) expectInPlace(LabelsOf(view.main, field).label, 25);
+  expectInPlace(view.main.lblColorName, 10);
+}
+
 // So that no steady hand is needed.
 void ExpectLeastHeights(const View& view) {
   for (const Control* control : view.showing) {
@@ -159,6 +172,7 @@ const std::vector<ViewCheck> kLayoutChecks = {
     {"no caption is cut off", ExpectWholeCaptions},
     {"no two controls lie over each other, and all inside their window", ExpectControlsApart},
     {"a letter's height is free around what stands on a tab", ExpectMargins},
+    {"the inputs stand in the same place in all languages", ExpectInputsInPlace},
     {"rows of lists, buttons and bars are high enough", ExpectLeastHeights},
     {"the rows of a tab stand in their order", ExpectRowsInOrder},
 };

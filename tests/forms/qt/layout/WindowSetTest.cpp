@@ -4,6 +4,7 @@
 
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
 #include <QSessionManager>
 #include <QtTest/QTest>
 
@@ -223,6 +224,28 @@ TEST_F(WindowSetTest, TheMainWindowKeepsItsSizeWhateverFileIsOpen) {
   EXPECT_EQ(sizes(), before);
   test.OpenColors(kColors);
   EXPECT_EQ(sizes(), before);
+}
+
+// As on a screen of 1024 by 600 dots at 150 %.
+TEST_F(WindowSetTest, OnASmallScreenAllCanBeReached) {
+  const QSize room(683, 376);
+  ShowExport();
+  windows.FitInto(room);
+  Settle();
+  for (const Window* window : {static_cast<Window*>(&main), static_cast<Window*>(&test.exporter)}) {
+    QWidget& widget = windows.Of(*window);
+    auto& area = *widget.findChild<QScrollArea*>(QString(), Qt::FindDirectChildrenOnly);
+    widget.resize(0, 0);
+    Settle();
+    EXPECT_EQ(widget.size(), widget.size().boundedTo(room)) << window->Name();
+    for (const Control* control : window->Controls()) {
+      QWidget& part = windows.Of(*control);
+      if (!part.isVisible() || (part.focusPolicy() & Qt::TabFocus) == 0) continue;
+      area.ensureWidgetVisible(&part);
+      const QPoint middle = part.mapTo(area.viewport(), part.rect().center());
+      EXPECT_TRUE(area.viewport()->rect().contains(middle)) << control->Name();
+    }
+  }
 }
 
 // More pairs than a line of the file can have: their number has no limit but that of the table.

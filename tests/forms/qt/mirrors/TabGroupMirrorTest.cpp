@@ -1,7 +1,9 @@
 // A tab group and its widget, in both directions.
 #include "forms/qt/MirrorBench.h"
+#include "forms/qt/Settle.h"
 
 #include <QTabBar>
+#include <QToolButton>
 #include <QtTest/QTest>
 
 namespace wheelwright::testing {
@@ -72,6 +74,19 @@ TEST_F(TabGroupMirrorTest, ACaptionShowsEveryAmpersandThatItHolds) {
   tabs.SetTab(0, "Power && drive");
   EXPECT_EQ(widget.tabText(0), "Power && drive");
   EXPECT_EQ(Tab(), 0);
+}
+
+TEST_F(TabGroupMirrorTest, TabsWithoutRoomAreReachedByArrows) {
+  QTabWidget& widget = Widget();
+  const auto arrowsShow = [&] {
+    Settle();
+    const auto arrows = widget.tabBar()->findChildren<QToolButton*>();
+    return std::any_of(arrows.begin(), arrows.end(), [](const auto* arrow) { return arrow->isVisible(); });
+  };
+  window.resize(600, 200);
+  EXPECT_FALSE(arrowsShow());
+  window.resize(0, 0);
+  EXPECT_TRUE(arrowsShow());
 }
 
 }  // namespace
