@@ -162,12 +162,27 @@ TEST(LanguageCheck, AMarkWithoutMeaningIsTold) {
   const Faults onTab = {{4, "is a tab, which has no key; write \"&&\" for an \"&\" to be read"}};
   EXPECT_EQ(FaultsWith(4, "Engine & drive"), onTab);
   EXPECT_EQ(FaultsWith(4, "&Engine"), onTab);
-  // A frame, a hint, a row of a list, the head of a column, a message.
-  for (const std::size_t entry : {100u, 32u, 46u, 109u, 116u}) {
+  // A hint, a row of a list, the head of a column, a message.
+  for (const std::size_t entry : {32u, 46u, 109u, 116u}) {
     const std::string text = EntriesOf(English())[entry];
     EXPECT_EQ(FaultsWith(entry, "&" + text),
               (Faults{{entry, "has an \"&\", which means nothing here; take it out"}}));
   }
+}
+
+TEST(LanguageCheck, AFrameMayHaveAKeyAndMayLackOne) {
+  EXPECT_EQ(FaultsWith(100, "Author"), Faults());
+  EXPECT_EQ(FaultsWith(100, "A&uthor"), Faults());
+  EXPECT_EQ(FaultsWith(100, "Auth&or"),
+            (Faults{{100,
+                     "has the key \"o\" together with entry 8 (&Open file...) in the same window or tab; "
+                     "choose another letter"}}));
+}
+
+TEST(LanguageCheck, OneLetterOfInfoStaysFree) {
+  EXPECT_EQ(FaultsWith(17, "Mass, &full (kg)"),
+            (Faults{{{}, "leaves no letter of Info free; choose another one than I, N, F or O somewhere"}}));
+  EXPECT_EQ(FaultsWith(106, "Close &fast"), Faults());
 }
 
 TEST(LanguageCheck, TwoOfOneTabWithTheSameKeyAreTold) {

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <map>
 #include <set>
+#include <string_view>
 #include <utility>
 
 namespace wheelwright::languages {
@@ -26,7 +27,10 @@ std::string KeysOf(const std::string& caption) {
 
 bool IsLetterOrDigit(char key) { return (key >= 'a' && key <= 'z') || (key >= '0' && key <= '9'); }
 
-bool NeedsKey(Use use) { return use == Use::Button || use == Use::Label; }
+bool TakesKey(Use use) { return use == Use::Button || use == Use::Label || use == Use::Frame; }
+
+// The button of the main window that has the same caption in every language.
+constexpr std::string_view kInfo = "info";
 
 class KeyCheck {
  public:
@@ -43,6 +47,7 @@ class KeyCheck {
       }
     }
     for (const View& view : views_) CheckView(view);
+    CheckInfo();
     return std::move(faults_);
   }
 
@@ -52,8 +57,8 @@ class KeyCheck {
   void CheckMarks(const Sighting& sighting) {
     if (sighting.use == Use::Tab) {
       CheckTab(sighting.entry);
-    } else if (NeedsKey(sighting.use)) {
-      CheckKey(sighting.entry);
+    } else if (TakesKey(sighting.use)) {
+      CheckKey(sighting);
     } else {
       CheckUnmarked(sighting.entry);
     }
@@ -69,22 +74,31 @@ class KeyCheck {
     Add(entry, "is a tab, which has no key; write \"&&\" for an \"&\" to be read");
   }
 
-  void CheckKey(std::size_t entry) {
+  void CheckKey(const Sighting& sighting) {
+    const std::size_t entry = sighting.entry;
     const std::string keys = KeysOf(entries_[entry]);
     if (keys.empty()) {
-      Add(entry, "has no key; put an \"&\" before one of its letters");
+      if (sighting.use != Use::Frame) Add(entry, "has no key; put an \"&\" before one of its letters");
     } else if (keys.size() > 1) {
       Add(entry, "has more than one \"&\"; leave the one before the letter that is the key");
     } else if (!IsLetterOrDigit(keys[0])) {
       Add(entry, "must have its \"&\" before a letter from A to Z or a digit");
     }
+    // The names of controls of other windows have that of the window before them.
+    if (sighting.control.find('.') == std::string::npos) keysOfMain_ += keys;
+  }
+
+  void CheckInfo() {
+    const auto isTaken = [this](char letter) { return keysOfMain_.find(letter) != std::string::npos; };
+    if (!std::all_of(kInfo.begin(), kInfo.end(), isTaken)) return;
+    faults_.push_back({{}, "leaves no letter of Info free; choose another one than I, N, F or O somewhere"});
   }
 
   void CheckView(const View& view) {
     std::map<std::string, std::size_t> owners;
     for (const Sighting& sighting : view) {
       const std::string keys = KeysOf(entries_[sighting.entry]);
-      if (!NeedsKey(sighting.use) || keys.empty()) continue;
+      if (!TakesKey(sighting.use) || keys.empty()) continue;
       const auto [owner, isNew] = owners.emplace(keys, sighting.entry);
       if (!isNew) AddClash(keys, owner->second, sighting.entry);
     }
@@ -101,6 +115,7 @@ class KeyCheck {
 
   const std::vector<std::string>& entries_;
   const std::vector<View> views_ = AllViews();
+  std::string keysOfMain_;
   std::set<std::pair<std::size_t, std::size_t>> clashes_;
   std::vector<Fault> faults_;
 };

@@ -1,4 +1,7 @@
 #include "forms/qt/layout/Layouts.h"
+#include "forms/qt/widgets/ShownText.h"
+
+#include <algorithm>
 
 #include <QApplication>
 #include <QGridLayout>
@@ -66,6 +69,40 @@ void GiveKeysToTabs(QTabBar& tabs) {
   giveStep({QKeySequence("Ctrl+Shift+Tab"), QKeySequence("Ctrl+PgUp")}, -1);
 }
 
+// Gives the button whose caption is the same in every language a letter that no other caption has.
+// Captions that change ask for a new layout, and have all changed when it comes.
+class FreeLetter : public QObject {
+ public:
+  FreeLetter(const FrmMain& main, QPushButton& button, QWidget* window)
+      : QObject(window), main_(main), button_(button) {
+    window->installEventFilter(this);
+  }
+
+ protected:
+  bool eventFilter(QObject* /*window*/, QEvent* event) override {
+    if (event->type() == QEvent::LayoutRequest) Mark();
+    return false;
+  }
+
+ private:
+  void Mark() {
+    QString taken;
+    for (const Control* control : main_.Controls()) {
+      const auto* captioned = dynamic_cast<const Captioned*>(control);
+      if (captioned == nullptr) continue;
+      taken += QKeySequence::mnemonic(ShownCaption(captioned->Caption())).toString().right(1);
+    }
+    QString caption = ShownCaption(main_.cmdInfo.Caption());
+    const auto isFree = [&](QChar letter) { return !taken.contains(letter, Qt::CaseInsensitive); };
+    const auto* free = std::find_if(caption.cbegin(), caption.cend(), isFree);
+    if (free != caption.cend()) caption.insert(free - caption.cbegin(), '&');
+    button_.setText(caption);
+  }
+
+  const FrmMain& main_;
+  QPushButton& button_;
+};
+
 QLayout* LeftColumn(FrmMain& main, QWidget* window, MirrorSet& mirrors) {
   auto* column = new QVBoxLayout;
   column->setSpacing(window->fontMetrics().height() / 2);
@@ -121,6 +158,7 @@ void LayOutMain(FrmMain& main, QWidget* window, MirrorSet& mirrors) {
   GiveKeysToButtons(main, mirrors);
   GiveKeysToVehicles(static_cast<QComboBox&>(mirrors.Of(main.cmbAutos).Widget()));
   mirrors.Of(main.cmdOpen).Widget().setFocus();
+  new FreeLetter(main, static_cast<QPushButton&>(mirrors.Of(main.cmdInfo).Widget()), window);
 }
 
 }  // namespace wheelwright

@@ -197,6 +197,18 @@ TEST_F(WindowSetTest, TheStandardKeysClickTheirButtons) {
   EXPECT_EQ(test.LastShown(), "end");
 }
 
+TEST_F(WindowSetTest, InfoHasTheFirstOfItsLettersThatNoOtherCaptionHas) {
+  const auto& info = Of<QPushButton>(main.cmdInfo);
+  EXPECT_EQ(info.text(), "&Info");
+  main.lblColorName.SetCaption("&Name");
+  main.cmdHelp.SetCaption("&Instructions");
+  Settle();
+  EXPECT_EQ(info.text(), "In&fo");
+  QTest::keyClick(&windows.Of(main), Qt::Key_F, Qt::AltModifier);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return !test.desktop.shown.empty(); }));
+  EXPECT_TRUE(test.LastShown().starts_with("information: ")) << test.LastShown();
+}
+
 TEST_F(WindowSetTest, TheKeysOfSavingWorkOnceAFileIsOpen) {
   Press(QKeySequence::Save, "Ctrl+S");
   Press(QKeySequence::SaveAs, "Ctrl+Shift+S");

@@ -76,6 +76,9 @@ TEST_F(CaptionMirrorsTest, AFramesCaptionIsTheNameOfItsInput) {
   frame.SetCaption("&Vehicles");
   EXPECT_EQ(mirror.Widget().title(), "&Vehicles");
   EXPECT_EQ(input.accessibleName(), "Vehicles");
+  Raise(mirror.Widget());
+  QTest::keyClick(&elsewhere, Qt::Key_V, Qt::AltModifier);
+  EXPECT_TRUE(input.hasFocus());
   frame.SetEnabled(false);
   EXPECT_EQ(Difference(pick), "enabled \"0\" instead of \"1\"");
 }
