@@ -21,4 +21,9 @@ std::optional<PictureSize> SizeOfReadPicture(const std::string& file) {
 RealScreen::RealScreen(std::ostream& result)
     : stage(result, SizeOfReadPicture), windows(stage.session, stage.edge), hands(windows) {}
 
+void RealScreen::Fill(QSize size) {
+  windows.FitInto(size);
+  windows.Of(stage.session.main).resize(size);
+}
+
 }  // namespace wheelwright::replay

@@ -13,6 +13,9 @@ struct RealScreen {
   // The windows are built, none is on screen yet. A Toolkit must be there and outlive them.
   explicit RealScreen(std::ostream& result);
 
+  // Lets no window be larger than a screen of this size, and makes the main one as large.
+  void Fill(QSize size);
+
   Stage stage;
   WindowSet windows;
   WidgetHands hands;

@@ -44,6 +44,7 @@ ExitCode PlayOnRealWindows(const Options& options) {
 #ifdef WHEELWRIGHT_REAL_WINDOWS
   const Toolkit toolkit(options.dark);
   RealScreen screen(std::cout);
+  if (options.screenWidth > 0) screen.Fill({options.screenWidth, options.screenHeight});
   return PlayOn(screen, options.appDirectory);
 #else
   static_cast<void>(options);

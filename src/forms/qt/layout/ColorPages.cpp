@@ -9,10 +9,9 @@ namespace wheelwright {
 namespace {
 
 QHBoxLayout* Halves(QWidget& page) {
-  const int gap = page.fontMetrics().height();
-  auto* halves = new QHBoxLayout(&page);
-  halves->setContentsMargins(gap, gap, gap, gap);
-  halves->setSpacing(gap);
+  auto* halves = new QHBoxLayout(&RoomOn(page));
+  halves->setContentsMargins(0, 0, 0, 0);
+  halves->setSpacing(page.fontMetrics().height());
   return halves;
 }
 

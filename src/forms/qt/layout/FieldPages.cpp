@@ -79,10 +79,9 @@ QFrame* Line(QWidget& page) {
 // The boxes of one digit of the flags stand in one row, between two lines.
 void BuildFlags(FrmMain& main, QWidget& page, MirrorSet& mirrors) {
   constexpr int kBoxesOfDigit = 4;
-  const int gap = page.fontMetrics().height();
-  auto* grid = new QGridLayout(&page);
-  grid->setContentsMargins(gap, gap, gap, gap);
-  grid->setHorizontalSpacing(gap);
+  auto* grid = new QGridLayout(&RoomOn(page));
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->setHorizontalSpacing(page.fontMetrics().height());
   for (std::size_t i = 0; i < kFlagCount; ++i) {
     const int digit = static_cast<int>(i) / kBoxesOfDigit;
     const int place = static_cast<int>(i) % kBoxesOfDigit;
@@ -94,8 +93,8 @@ void BuildFlags(FrmMain& main, QWidget& page, MirrorSet& mirrors) {
 
 void BuildMisc(FrmMain& main, QWidget& page, MirrorSet& mirrors) {
   const int gap = page.fontMetrics().height();
-  auto* column = new QVBoxLayout(&page);
-  column->setContentsMargins(gap, gap, gap, gap);
+  auto* column = new QVBoxLayout(&RoomOn(page));
+  column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(gap);
   // Hidden for good, they need no place.
   for (Button* hidden : {&main.cmdNewCar, &main.cmdDeleteCar}) mirrors.Add(*hidden, &page);
@@ -122,6 +121,18 @@ void BuildPicturePage(QWidget& page, Frame& frame, Picture& picture, MirrorSet& 
 }
 
 }  // namespace
+
+QWidget& RoomOn(QWidget& page) {
+  constexpr int kMostCharacters = 150;
+  const int gap = page.fontMetrics().height();
+  auto* room = new QWidget;
+  room->setMaximumWidth(kMostCharacters * page.fontMetrics().averageCharWidth());
+  auto* whole = new QHBoxLayout(&page);
+  whole->setContentsMargins(gap, gap, gap, gap);
+  whole->addWidget(room, 1);
+  whole->addStretch();
+  return *room;
+}
 
 // A pick list is the highest input.
 int RowHeight(QWidget& page) { return PickBox(&page).sizeHint().height(); }

@@ -22,6 +22,10 @@ void BuildColorPages(FrmMain& main, TabGroupMirror& group, MirrorSet& mirrors);
 // The columns of a page; where there is no hint, the value of the input stands there.
 enum PageColumn { kLabelColumn, kInputColumn, kInfoColumn };
 
+// The room on a page for its controls, with a gap around. On a wide screen it ends before the page does, so
+// that what belongs together isn't torn apart.
+QWidget& RoomOn(QWidget& page);
+
 // The height of a row with any kind of input, so that rows keep the same distance on all pages. Builds
 // such an input to ask it, which takes time.
 int RowHeight(QWidget& page);

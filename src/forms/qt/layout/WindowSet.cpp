@@ -125,8 +125,11 @@ WindowSet::WindowSet(Session& session, EventEdge& edge)
 }
 
 void WindowSet::FitInto(QSize room) {
-  for (const QWidget* window : {main_.get(), error_.get(), exporter_.get()}) {
+  for (QWidget* window : {main_.get(), error_.get(), exporter_.get()}) {
     window->findChild<ContentArea*>(QString(), Qt::FindDirectChildrenOnly)->FitInto(room);
+    window->layout()->activate();
+    const QSize size = window->size().boundedTo(room);
+    if (size != window->size()) window->resize(size);
   }
 }
 

@@ -109,6 +109,23 @@ TEST_F(MainDesignTest, OnAWideScreenAHintStaysBesideItsInput) {
   EXPECT_EQ(Beside(main.txtGewicht, *main.txtGewicht.hint), letter);
 }
 
+TEST_F(MainDesignTest, OnAWideScreenWhatBelongsTogetherStaysTogether) {
+  const int most = 150 * windows.Of(main).fontMetrics().averageCharWidth() + 2 * letter;
+  windows.Of(main).resize(3840, 2160);
+  const auto expectNear = [&](const Control& rightmost, const Control& tabs) {
+    Settle();
+    EXPECT_LE(Place(rightmost).right() - Place(tabs).left(), most) << rightmost.Name();
+  };
+  OpenOnTab(kFlagsTab);
+  expectNear(main.chkFlag[3], main.SSTab1);
+  OpenOnTab(kMiscTab);
+  expectNear(main.frameDate, main.SSTab1);
+  test.OpenColors(kColors);
+  expectNear(main.picFarbe, main.SSTab3);
+  main.SSTab3.ClickByHand(kPairsTab);
+  expectNear(main.frameAddColors, main.SSTab3);
+}
+
 TEST_F(MainDesignTest, TheButtonsOfTheVehiclesAreAQuarterOfThePageEach) {
   OpenOnTab(kMiscTab);
   EXPECT_NEAR(Place(main.cmdImportCar).width(), Place(main.SSTab1).width() / 4, letter);
