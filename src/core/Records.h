@@ -3,6 +3,7 @@
 
 #include "core/FieldText.h"
 
+#include <array>
 #include <cstdint>
 #include <vector>
 
@@ -86,6 +87,9 @@ struct ColorEntry {
 
   bool operator==(const ColorEntry&) const = default;
 };
+
+// A colour as it can be shown: red, green and blue, each from 0 to 255.
+using Rgb = std::array<int, 3>;
 
 // Two colours that a vehicle may wear together, by the Index of each.
 struct ColorPair {

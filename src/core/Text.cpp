@@ -41,7 +41,7 @@ std::string_view TrimBlanks(std::string_view text) {
   return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
-std::string Joined(std::initializer_list<std::string_view> texts) {
+std::string Concatenated(std::initializer_list<std::string_view> texts) {
   std::size_t length = 0;
   for (const std::string_view text : texts) length += text.size();
   std::string joined;

@@ -16,7 +16,7 @@ inline constexpr std::string_view kLineEnd = "\r\n";
 std::string_view TrimBlanks(std::string_view text);
 
 // The texts behind each other, in no more memory than they take.
-std::string Joined(std::initializer_list<std::string_view> texts);
+std::string Concatenated(std::initializer_list<std::string_view> texts);
 
 // The text with every capital letter of the code page as its lower-case letter.
 std::string FoldedCase(std::string_view text);

@@ -4,6 +4,7 @@
 #include "core/Text.h"
 #include "gamefiles/FileKinds.h"
 
+#include <algorithm>
 #include <string>
 #include <unordered_map>
 #include <utility>
@@ -12,30 +13,41 @@
 namespace wheelwright {
 namespace {
 
-// The names by Index; of two colours with the same Index the later one counts.
-using NamesByIndex = std::unordered_map<std::int16_t, const FieldText*>;
+// Of two colours with the same Index the later one counts.
+using ColorsByIndex = std::unordered_map<std::int16_t, const ColorEntry*>;
 
-void LookUp(const NamesByIndex& names, std::int16_t index, std::string_view& name) {
-  if (const auto found = names.find(index); found != names.end()) name = *found->second;
+Rgb ShownColor(const ColorEntry& color) {
+  constexpr std::int16_t kMost = 255;
+  const auto cut = [](std::int16_t part) { return std::clamp<int>(part, 0, kMost); };
+  return {cut(color.Red), cut(color.Green), cut(color.Blue)};
 }
 
-void RepairIfNameless(const ColorEntry& firstColor, std::int16_t& index, std::string_view& name) {
-  if (!name.empty()) return;
+void ListPair(ListBox& list, const ColorEntry& first, const ColorEntry& second) {
+  list.swatches.push_back({ShownColor(first), ShownColor(second)});
+  list.AddRow(Concatenated({first.ColorName, " - ", second.ColorName}));
+}
+
+void LookUp(const ColorsByIndex& colors, std::int16_t index, const ColorEntry*& color) {
+  if (const auto found = colors.find(index); found != colors.end()) color = found->second;
+}
+
+void RepairIfNameless(const ColorEntry& firstColor, std::int16_t& index, const ColorEntry*& color) {
+  if (color != nullptr && !color->ColorName.empty()) return;
   index = firstColor.Index;
-  name = firstColor.ColorName;
+  color = &firstColor;
 }
 
-// The two names are empty once per entry, not once per pair.
-void ListPairsOf(Session& session, const NamesByIndex& names, CarColorEntry& entry) {
+// The two colours are none once per entry, not once per pair.
+void ListPairsOf(Session& session, const ColorsByIndex& colors, CarColorEntry& entry) {
   const ColorEntry& firstColor = std::as_const(session.vars.Colors).At(0);
-  std::string_view first;
-  std::string_view second;
+  const ColorEntry* first = nullptr;
+  const ColorEntry* second = nullptr;
   for (ColorPair& pair : entry.Pairs) {
-    LookUp(names, pair.Color1, first);
-    LookUp(names, pair.Color2, second);
+    LookUp(colors, pair.Color1, first);
+    LookUp(colors, pair.Color2, second);
     RepairIfNameless(firstColor, pair.Color1, first);
     RepairIfNameless(firstColor, pair.Color2, second);
-    session.main.lstCarColors.AddRow(Joined({first, " - ", second}));
+    ListPair(session.main.lstCarColors, *first, *second);
   }
 }
 
@@ -77,12 +89,13 @@ void TakeOut(std::vector<ColorPair>& pairs, int position) {
 
 void ShowColorPairs(Session& session) {
   session.main.lstCarColors.Clear();
+  session.main.lstCarColors.swatches.clear();
   const std::string key = session.main.cmbAutos.Text();
-  NamesByIndex names;
-  for (const ColorEntry& color : session.vars.Colors.Walk()) names[color.Index] = &color.ColorName;
+  ColorsByIndex colors;
+  for (const ColorEntry& color : session.vars.Colors.Walk()) colors[color.Index] = &color;
   Table<CarColorEntry>& carColors = session.vars.CarColors;
   for (int i = carColors.First(&CarColorEntry::ModelName, key); i != carColors.kNone; i = carColors.Next(i)) {
-    ListPairsOf(session, names, carColors.At(i));
+    ListPairsOf(session, colors, carColors.At(i));
     session.vars.CurrentCarColor = Checked16(i);
   }
 }
@@ -116,7 +129,7 @@ void AddPair(Session& session) {
   Checked16(entry.Pairs.size());
   entry.Pairs.push_back({Checked16(first), Checked16(second)});
   const Table<ColorEntry>& colors = session.vars.Colors;
-  main.lstCarColors.AddRow(Joined({colors.At(first).ColorName, " - ", colors.At(second).ColorName}));
+  ListPair(main.lstCarColors, colors.At(first), colors.At(second));
   session.vars.IsSaved = false;
 }
 
@@ -129,6 +142,7 @@ void RemovePair(Session& session) {
   if (pair == kNotFound) return;
   TakeOut(entry.Pairs, pair);
   list.RemoveRow(pair);
+  list.swatches.erase(list.swatches.begin() + pair);
   if (list.Count() > 0) list.Choose(0);
   session.vars.IsSaved = false;
 }

@@ -1,6 +1,7 @@
 // The two lists of rows that a person chooses from: the pick list and the list box.
 #pragma once
 
+#include "core/Records.h"
 #include "screen/Control.h"
 
 #include <functional>
@@ -76,6 +77,9 @@ class PickList : public RowList {
 class ListBox : public RowList {
  public:
   using RowList::RowList;
+
+  // The colours in front of each row's text, kept by whoever fills the list; most lists have none.
+  std::vector<std::vector<Rgb>> swatches;
 };
 
 // A list box in which several rows can be marked at once; nothing is ever chosen in it.

@@ -21,11 +21,11 @@ TEST(TextTest, NothingButTheBlankIsCut) {
   EXPECT_EQ(TrimBlanks("\xA0x\xA0"), "\xA0x\xA0");
 }
 
-TEST(TextTest, JoinedTextsTakeNoMoreRoomThanTheyNeed) {
+TEST(TextTest, TextsBehindEachOtherTakeNoMoreRoomThanTheyNeed) {
   const std::string part(1000, 'x');
-  EXPECT_EQ(Joined({part, " - ", part}), part + " - " + part);
-  EXPECT_LT(Joined({part, " - ", part}).capacity(), 2 * part.size() + 100);
-  EXPECT_EQ(Joined({}), "");
+  EXPECT_EQ(Concatenated({part, " - ", part}), part + " - " + part);
+  EXPECT_LT(Concatenated({part, " - ", part}).capacity(), 2 * part.size() + 100);
+  EXPECT_EQ(Concatenated({}), "");
 }
 
 TEST(TextTest, FoldingTurnsAllCapitalsOfTheCodePageIntoSmallLetters) {

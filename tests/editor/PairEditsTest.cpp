@@ -102,6 +102,33 @@ TEST(PairEdits, AColorBehindAShortenedPaletteCannotFillASwatch) {
   EXPECT_EQ(NumberThrownBy([&] { test.main.cmbColor1.ChooseByHand(2); }), 9);
 }
 
+using Swatches = std::vector<std::vector<Rgb>>;
+
+constexpr Rgb kRed = {200, 0, 0};
+constexpr Rgb kBlue = {0, 0, 200};
+constexpr Rgb kYellow = {250, 250, 0};
+
+TEST(PairEdits, EachRowHasTheColorsOfItsPairAlsoWhereNamesAreTheSame) {
+  Opened test("bus,0,1,2,2\r\nvan,1,1\r\nbus,2,0\r\n");
+  EXPECT_EQ(test.main.lstCarColors.swatches, (Swatches{{kRed, kBlue}, {kYellow, kYellow}, {kYellow, kRed}}));
+  test.vars.Colors.At(2).ColorName = "Rot";
+  test.vars.Colors.At(2).Green = 300;
+  test.vars.Colors.At(2).Blue = -1;
+  test.main.cmbAutos.ChooseByHand(2);
+  EXPECT_EQ(test.main.lstCarColors.swatches, (Swatches{{kBlue, kBlue}}));
+  test.main.cmbAutos.ChooseByHand(0);
+  EXPECT_EQ(test.main.lstCarColors.swatches.at(1), (std::vector<Rgb>{{250, 255, 0}, {250, 255, 0}}));
+}
+
+TEST(PairEdits, TheColorsOfARowComeAndGoWithIt) {
+  Opened test("bus,0,1,2,2\r\n");
+  test.main.cmbColor1.ChooseByHand(1);
+  test.main.cmdAddColor.ClickByHand();
+  EXPECT_EQ(test.main.lstCarColors.swatches, (Swatches{{kRed, kBlue}, {kYellow, kYellow}, {kBlue, kRed}}));
+  test.Remove(1);
+  EXPECT_EQ(test.main.lstCarColors.swatches, (Swatches{{kRed, kBlue}, {kBlue, kRed}}));
+}
+
 TEST(PairEdits, AClickOnAPairChoosesItsColors) {
   Opened test("bus,0,1,2,0\r\n");
   test.main.lstCarColors.ChooseByHand(1);

@@ -40,23 +40,5 @@ TEST(PaletteLabelTest, AnyOtherTextTellsNoColor) {
   }
 }
 
-const std::vector<std::string> kPalette = {"black - 0,0,0", "sky - 1,2,3", "sky - blue - 4,5,6",
-                                           "sky - 7,8,9", " - 300,0,-1"};
-
-TEST(PaletteLabelTest, APairTellsTheColorsOfItsTwoNames) {
-  EXPECT_EQ(ColorsInPair("sky - black", kPalette), (Colors{{7, 8, 9}, {0, 0, 0}}));
-  EXPECT_EQ(ColorsInPair("black - black", kPalette), (Colors{{0, 0, 0}, {0, 0, 0}}));
-  EXPECT_EQ(ColorsInPair("sky - blue - sky", kPalette), (Colors{{4, 5, 6}, {7, 8, 9}}));
-  EXPECT_EQ(ColorsInPair("black - sky - blue", kPalette), (Colors{{0, 0, 0}, {4, 5, 6}}));
-  EXPECT_EQ(ColorsInPair(" - sky", kPalette), (Colors{{255, 0, 0}, {7, 8, 9}}));
-}
-
-TEST(PaletteLabelTest, APairOfNamesThatThePaletteLacksTellsNone) {
-  for (const char* row : {"", "sky", "sky - red", "red - sky", "sky- black", "Sky - black", "black"}) {
-    EXPECT_EQ(ColorsInPair(row, kPalette), Colors()) << row;
-  }
-  EXPECT_EQ(ColorsInPair("sky - black", {}), Colors());
-}
-
 }  // namespace
 }  // namespace wheelwright::testing

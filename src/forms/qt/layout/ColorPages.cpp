@@ -34,10 +34,14 @@ void AddBar(Label& label, ScrollBar& bar, Label& value, QGridLayout& grid, QWidg
   PlaceRow(grid, name, input, text);
 }
 
+ColorsOfRow ColorsOfLabels(const RowList& labels) {
+  return [&labels](std::size_t row) { return ColorsInLabel(labels.Rows()[row]); };
+}
+
 QLayout* ColorList(FrmMain& main, TabGroupMirror& group, QWidget& page, MirrorSet& mirrors) {
   auto* column = new QVBoxLayout;
   ListBoxMirror& colors = mirrors.Add(main.lstColors, &page);
-  colors.ShowColors(ColorsInLabel);
+  colors.ShowColors(ColorsOfLabels(main.lstColors));
   QWidget& list = colors.Widget();
   group.Name(kPaletteTab, list);
   column->addWidget(&list);
@@ -79,8 +83,10 @@ void BuildPalette(FrmMain& main, TabGroupMirror& group, QWidget& page, MirrorSet
 
 QWidget* PairList(FrmMain& main, QWidget& page, MirrorSet& mirrors) {
   QWidget* frame = Framed(main.frameColors, main.lstCarColors, page, mirrors);
-  static_cast<ListBoxMirror&>(mirrors.Of(main.lstCarColors))
-      .ShowColors([&main](const std::string& row) { return ColorsInPair(row, main.lstColors.Rows()); }, 2);
+  const auto colorsOf = [&swatches = main.lstCarColors.swatches](std::size_t row) {
+    return row < swatches.size() ? swatches[row] : std::vector<Rgb>();
+  };
+  static_cast<ListBoxMirror&>(mirrors.Of(main.lstCarColors)).ShowColors(colorsOf, 2);
   QWidget& remove = mirrors.Add(main.cmdRemColor, frame).Widget();
   static_cast<QVBoxLayout*>(frame->layout())->addWidget(&remove, 0, Qt::AlignRight);
   return frame;
@@ -91,7 +97,7 @@ void AddPick(Label& label, PickList& pick, Swatch& swatch, QGridLayout& grid, QW
   constexpr int kCharactersShown = 22;
   LabelMirror& name = mirrors.Add(label, &frame);
   PickListMirror& colors = mirrors.Add(pick, &frame);
-  colors.ShowColors(ColorsInLabel);
+  colors.ShowColors(ColorsOfLabels(pick));
   QComboBox& input = colors.Widget();
   input.setMinimumContentsLength(kCharactersShown);
   PlaceRow(grid, name, input, mirrors.Add(swatch, &frame).Widget());

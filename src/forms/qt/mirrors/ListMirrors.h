@@ -16,8 +16,8 @@ namespace wheelwright {
 template <class ListType, class ViewType>
 class RowsMirror : public MirrorOf<ListType, ViewType> {
  public:
-  // Shows the colours that the rows tell of beside them, so many in each row.
-  void ShowColors(ColorsOfText colorsOf, int inEachRow = 1) {
+  // Shows colours in front of the rows' texts, so many in each.
+  void ShowColors(ColorsOfRow colorsOf, int inEachRow = 1) {
     this->widget_.setIconSize(SwatchIconSize(this->widget_, inEachRow));
     model_.ShowColors(std::move(colorsOf));
   }

@@ -24,15 +24,15 @@ int RowModel::rowCount(const QModelIndex& parent) const { return parent.isValid(
 
 QVariant RowModel::data(const QModelIndex& index, int role) const {
   if (index.row() < 0 || index.row() >= list_.Count()) return {};
-  const std::string& text = list_.Rows()[static_cast<std::size_t>(index.row())];
-  if (role == Qt::DisplayRole) return Shown(text);
-  return role == Qt::DecorationRole ? Decoration(text) : QVariant();
+  const auto row = static_cast<std::size_t>(index.row());
+  if (role == Qt::DisplayRole) return Shown(list_.Rows()[row]);
+  return role == Qt::DecorationRole ? Decoration(row) : QVariant();
 }
 
-QVariant RowModel::Decoration(const std::string& text) const {
+QVariant RowModel::Decoration(std::size_t row) const {
   if (!colorsOf_) return {};
   std::vector<QColor> colors;
-  for (const auto& [red, green, blue] : colorsOf_(text)) colors.emplace_back(red, green, blue);
+  for (const auto& [red, green, blue] : colorsOf_(row)) colors.emplace_back(red, green, blue);
   return colors.empty() ? QVariant() : SwatchIcon(colors);
 }
 

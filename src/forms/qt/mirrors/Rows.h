@@ -1,7 +1,7 @@
 // The rows of a plain list as Qt's views want them, and the view of a list box.
 #pragma once
 
-#include "gamefiles/PaletteLabel.h"
+#include "core/Records.h"
 #include "screen/Lists.h"
 
 #include <functional>
@@ -13,8 +13,8 @@
 
 namespace wheelwright {
 
-// The colours that a row's text tells of, none or more.
-using ColorsOfText = std::function<std::vector<Rgb>(const std::string& text)>;
+// The colours to be shown in front of a row's text, none or more.
+using ColorsOfRow = std::function<std::vector<Rgb>(std::size_t row)>;
 
 // Reads the rows straight from the list and never copies them.
 class RowModel : public QAbstractListModel {
@@ -24,17 +24,16 @@ class RowModel : public QAbstractListModel {
   int rowCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;
 
-  // Shows the colours that the rows tell of beside them.
-  void ShowColors(ColorsOfText colorsOf) { colorsOf_ = std::move(colorsOf); }
+  void ShowColors(ColorsOfRow colorsOf) { colorsOf_ = std::move(colorsOf); }
 
   // Tells the views that the list's rows have changed as a whole, or texts of rows have.
   void Follow(Aspect aspect);
 
  private:
-  QVariant Decoration(const std::string& text) const;
+  QVariant Decoration(std::size_t row) const;
 
   const RowList& list_;
-  ColorsOfText colorsOf_;
+  ColorsOfRow colorsOf_;
 };
 
 // A list view in which what is chosen is what is selected, and never just the row with the cursor.

@@ -77,13 +77,6 @@ TEST_F(SwatchesTest, APairShowsItsTwoColors) {
   EXPECT_EQ(list.iconSize(), SwatchIconSize(list, 2));
 }
 
-TEST_F(SwatchesTest, APairWhoseColorIsGoneShowsNone) {
-  main.lstColors.Choose(0);
-  test.desktop.answers = {true};
-  main.cmdDeleteColor.ClickByHand();
-  EXPECT_EQ(Beside(*Of<QListView>(main.lstCarColors).model()), QStringList{"none"});
-}
-
 TEST_F(SwatchesTest, AnAreaHasAllItsEdges) {
   main.lstColors.Choose(1);
   Settle();
