@@ -3,6 +3,7 @@
 #ifdef __linux__
 #include "core/DiskFiles.h"
 #include "faults/SystemFault.h"
+#include "faults/TinyDisk.h"
 #include "support/EdgedSession.h"
 #include "support/Exchange.h"
 #include "support/TableTexts.h"
@@ -178,6 +179,16 @@ TEST_F(RealDiskTest, AnEarlierBackupIsNoMoreOpenThanItsModel) {
   s.Answer(true);
   s.Click(s.main.cmdBackup);
   EXPECT_EQ(ModeOf("handling.cfg.backup"), 0640U);
+  EXPECT_EQ(files.Read(In("handling.cfg.backup")), files.Read(In("handling.cfg")));
+}
+
+TEST_F(RealDiskTest, AFileMayBeAsLargeAsTheLimitOfTheProcess) {
+  TinyDisk limit(In(""), TinyKind::Limit);
+  limit.Fill();
+  const std::string text(TinyDisk::kPage, 'x');
+  files.Write(In("new.cfg"), text);
+  EXPECT_EQ(files.Read(In("new.cfg")), text);
+  EXPECT_EQ(NumberThrownBy([&] { files.Write(In("new.cfg"), text + "x"); }), 61);
 }
 
 TEST_F(RealDiskTest, SaveAsNeedsNoTemplateThatCanBeChanged) {

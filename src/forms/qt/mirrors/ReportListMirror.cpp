@@ -10,6 +10,7 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QTextDocument>
 
 namespace wheelwright {
 namespace {
