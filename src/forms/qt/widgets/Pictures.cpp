@@ -5,11 +5,18 @@
 #include <QPainter>
 
 namespace wheelwright {
+namespace {
+
+// What a picture may take in memory; left alone, each version of the toolkit has a limit of its own.
+constexpr int kMostMegabytes = 128;
+
+}  // namespace
 
 QImage ReadPicture(const std::string& file) {
   const QString path = QString::fromStdString(file);
   // The toolkit would wait for somebody to write into a pipe.
   if (!QFileInfo(path).isFile()) return {};
+  QImageReader::setAllocationLimit(kMostMegabytes);
   QImageReader reader(path);
   reader.setDecideFormatFromContent(true);
   reader.setAutoTransform(false);
