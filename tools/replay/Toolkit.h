@@ -8,6 +8,10 @@
 
 namespace wheelwright::replay {
 
+// From now on the toolkit keeps to itself what says nothing about the program: what its offscreen platform
+// can't do, where it keeps its own files, and that a picture was too large.
+void KeepToolkitQuiet();
+
 class Toolkit {
  public:
   // Without a display the windows stand on the toolkit's offscreen platform. `dark` gives

@@ -1,4 +1,6 @@
 // The tests of the real windows: one application, on no display.
+#include "replay/Toolkit.h"
+
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -6,6 +8,7 @@
 int main(int argumentCount, char** arguments) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   ::testing::InitGoogleTest(&argumentCount, arguments);
+  wheelwright::replay::KeepToolkitQuiet();
   const QApplication application(argumentCount, arguments);
   QApplication::setApplicationName("Wheelwright");
   QApplication::setQuitOnLastWindowClosed(false);
