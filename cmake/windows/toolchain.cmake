@@ -13,5 +13,7 @@ set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 
-# Programs that run without anything installed.
-set(CMAKE_EXE_LINKER_FLAGS_INIT "-static")
+# Programs that run without anything installed, at any address, with data that is never run as code. They
+# bear no time, so that the same sources make the same programs.
+set(CMAKE_EXE_LINKER_FLAGS_INIT
+    "-static -Wl,--dynamicbase,--high-entropy-va,--nxcompat,--no-insert-timestamp")

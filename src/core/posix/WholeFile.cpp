@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <sys/resource.h>
 #include <system_error>
+#include <tuple>
 #include <unistd.h>
 
 namespace wheelwright {
@@ -149,7 +150,7 @@ WholeFile::WholeFile(const std::string& path, mode_t modeOfNew) {
 
 WholeFile::~WholeFile() {
   if (!isUntouched_ || !file_.IsOpen()) return;
-  static_cast<void>(ftruncate(file_.Number(), oldSize_));
+  std::ignore = ftruncate(file_.Number(), oldSize_);
   if (IsNew() && oldSize_ == 0) unlink(newPath_.c_str());
 }
 
@@ -166,7 +167,7 @@ void WholeFile::Reserve(std::string_view text) {
 
 void WholeFile::ShareNoMoreThan(const struct stat& model) {
   constexpr mode_t kOwnerMayWrite = 0200;
-  if (IsNew()) static_cast<void>(fchown(file_.Number(), static_cast<uid_t>(-1), model.st_gid));
+  if (IsNew()) std::ignore = fchown(file_.Number(), static_cast<uid_t>(-1), model.st_gid);
   const struct stat facts = FactsOf(file_, Purpose::Writing);
   const mode_t mode = facts.st_mode & 07777U;
   const mode_t rights = RightsFrom(model, facts.st_gid);
