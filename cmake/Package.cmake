@@ -1,9 +1,9 @@
-# The packages that scripts/package makes: one for Debian, and an archive that runs from any folder.
+# The package for Debian that scripts/package makes.
 if(WIN32)
   return()
 endif()
 
-set(CPACK_GENERATOR DEB TGZ)
+set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME wheelwright)
 set(CPACK_PACKAGE_VENDOR "Wheelwright project")
 set(CPACK_PACKAGE_CONTACT "Wheelwright project <project@wheelwright.example>")
@@ -12,9 +12,6 @@ set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "editor for the vehicle data of GTA3 and G
 set(CPACK_PACKAGE_DIRECTORY ${PROJECT_SOURCE_DIR}/dist)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_PRE_BUILD_SCRIPTS ${PROJECT_SOURCE_DIR}/cmake/FitTree.cmake)
-
-set(CPACK_PACKAGE_FILE_NAME wheelwright-${PROJECT_VERSION}-${CMAKE_SYSTEM_NAME}-${CMAKE_SYSTEM_PROCESSOR})
-string(TOLOWER ${CPACK_PACKAGE_FILE_NAME} CPACK_PACKAGE_FILE_NAME)
 
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE 1)

@@ -1,10 +1,12 @@
 #!/usr/bin/env bash
 # What try-package does in the fresh system, as root and in a mount namespace that ends with it.
 #
-# usage: try-in-root.sh BASE DEB ARCHIVE PICTURES
+# usage: try-in-root.sh deb|archive BASE PACKAGE PICTURES
 set -euo pipefail
 source scripts/display.sh
-base=$1 deb=$2 archive=$3 pictures=$4
+source scripts/linux/root.sh
+source scripts/unordered.sh
+kind=$1 base=$2 package=$3 pictures=$4
 
 TITLE='GTAViceCity PC-Version - Wheelwright'
 HOME_INSIDE=/home/tester
@@ -14,19 +16,7 @@ root=$(mktemp -d)
 
 end() {
   stop_display
-  umount "$root/proc" "$root/dev"
-  rm -rf --one-file-system "$root"
-}
-
-unpack_root() {
-  chmod 755 "$root"
-  tar --extract --file "$base" --directory "$root"
-  mount --bind /proc "$root/proc"
-  mount --bind /dev "$root/dev"
-}
-
-inside() {
-  chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LC_ALL=C.UTF-8 "$@"
+  remove_root "$root"
 }
 
 # The files of the system, but for those that every installation changes.
@@ -73,6 +63,13 @@ edit_by_keyboard() {
   keys_to "$opened" key ctrl+q
 }
 
+# Nothing but the changed value may differ from the sample, and the lines that say who wrote the file.
+compare_saved() {
+  diff -a <(unordered samples/handling.cfg | sed 's/^AIRSHUTTLE 18500\.0 /AIRSHUTTLE 1234.5 /' | grep -av '^$') \
+    <(unordered "$root$HOME_INSIDE/handling.cfg" | grep -av '^$\|^; File created with\|^; Homepage: ') >&2 ||
+    fail "The saved file isn't what it should be (<)."
+}
+
 # Plays a short session with the program at that place; NAME is that of its picture.
 try_program() {
   local place=$1 name=$2 address manual
@@ -80,6 +77,7 @@ try_program() {
   start_program "$place"
   edit_by_keyboard "$name"
   wait "$program" || fail "The program ended with code $?."
+  compare_saved
   if [ -s "$root/tmp/messages" ]; then fail "The program wrote: $(cat "$root/tmp/messages")"; fi
   address=$(cat "$root$HOME_INSIDE/shown")
   printf -v manual '%b' "${address//%/\\x}"
@@ -89,10 +87,10 @@ try_program() {
 
 try_deb() {
   files_inside >"$root/tmp/before"
-  cp "$deb" "$root/tmp/package.deb"
-  inside dpkg --install /tmp/package.deb >/dev/null
+  cp "$package" "$root/tmp/package.deb"
+  inside "$root" dpkg --install /tmp/package.deb >/dev/null
   try_program wheelwright deb
-  inside dpkg --purge wheelwright >/dev/null
+  inside "$root" dpkg --purge wheelwright >/dev/null
   files_inside >"$root/tmp/after"
   if ! diff "$root/tmp/before" "$root/tmp/after" >&2; then
     echo "The package left these files behind (>) or took them away (<)." >&2
@@ -102,15 +100,13 @@ try_deb() {
 
 try_archive() {
   mkdir -p "$root/opt/any where"
-  tar --extract --gzip --file "$archive" --directory "$root/opt/any where" --strip-components 1
+  tar --extract --gzip --file "$package" --directory "$root/opt/any where" --strip-components 1
   ln -s "../opt/any where/bin/wheelwright" "$root/tmp/link"
   try_program "/opt/any where/bin/wheelwright" archive
   try_program /tmp/link link
 }
 
 trap end EXIT
-unpack_root
+unpack_root "$base" "$root"
 use_display "$pictures"
-rm -f "$pictures"/*.png
-try_deb
-try_archive
+"try_$kind"
