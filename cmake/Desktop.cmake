@@ -4,8 +4,8 @@
 # Installs a file packed by gzip, without a time of its own.
 function(install_packed FILE NAME DESTINATION)
   set(PACKED ${CMAKE_BINARY_DIR}/packed/${NAME}.gz)
-  install(CODE "file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/packed)
-    execute_process(COMMAND gzip -9nc ${FILE} OUTPUT_FILE ${PACKED} COMMAND_ERROR_IS_FATAL ANY)")
+  install(CODE "file(MAKE_DIRECTORY \"${CMAKE_BINARY_DIR}/packed\")
+    execute_process(COMMAND gzip -9nc \"${FILE}\" OUTPUT_FILE \"${PACKED}\" COMMAND_ERROR_IS_FATAL ANY)")
   install(FILES ${PACKED} DESTINATION ${DESTINATION})
 endfunction()
 
