@@ -2,7 +2,6 @@
 
 #include <QGridLayout>
 #include <QMargins>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace wheelwright {
@@ -56,13 +55,10 @@ QLayout* Arrows(FrmExport& exporter, QWidget* window, MirrorSet& mirrors) {
 
 // A double click and Enter move the marked rows as the arrow to the other list does.
 void MoveByHand(MarkList& list, const Button& arrow, const MirrorSet& mirrors) {
-  auto* rows = &static_cast<QAbstractItemView&>(mirrors.Of(list).Widget());
+  auto& rows = static_cast<RowView&>(mirrors.Of(list).Widget());
   auto* button = &static_cast<QPushButton&>(mirrors.Of(arrow).Widget());
-  auto* enter = new QShortcut(rows);
-  enter->setKeys({Qt::Key_Return, Qt::Key_Enter});
-  enter->setContext(Qt::WidgetShortcut);
-  QObject::connect(enter, &QShortcut::activated, button, &QPushButton::click);
-  QObject::connect(rows, &QAbstractItemView::doubleClicked, button, &QPushButton::click);
+  rows.entered = [button] { button->click(); };
+  QObject::connect(&rows, &RowView::doubleClicked, button, &QPushButton::click);
 }
 
 // As wide and high as the row gives, which is at least what its caption needs.

@@ -12,9 +12,9 @@
 namespace wheelwright {
 namespace {
 
-bool IsChoosingKey(const QKeyEvent& event) {
-  return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter || event.key() == Qt::Key_Space;
-}
+bool IsEnter(const QKeyEvent& event) { return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter; }
+
+bool IsChoosingKey(const QKeyEvent& event) { return IsEnter(event) || event.key() == Qt::Key_Space; }
 
 }  // namespace
 
@@ -82,6 +82,7 @@ void RowView::mousePressEvent(QMouseEvent* event) {
 }
 
 void RowView::keyPressEvent(QKeyEvent* event) {
+  if (entered && IsEnter(*event)) return entered();
   const bool isAgain = IsOnlySelected(currentIndex());
   QListView::keyPressEvent(event);
   if (!IsChoosingKey(*event) || !currentIndex().isValid()) return;

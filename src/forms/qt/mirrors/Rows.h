@@ -49,6 +49,8 @@ class RowView : public QListView {
   // Called when a person chooses the row that is the selected one already, which changes no
   // selection.
   std::function<void(int)> chosenAgain;
+  // Called by Enter, which chooses no row then.
+  std::function<void()> entered;
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;
