@@ -126,7 +126,8 @@ WindowSet::WindowSet(Session& session, EventEdge& edge)
 
 void WindowSet::FitInto(QSize room) {
   for (QWidget* window : {main_.get(), error_.get(), exporter_.get()}) {
-    window->findChild<ContentArea*>(QString(), Qt::FindDirectChildrenOnly)->FitInto(room);
+    static_cast<ContentArea*>(window->findChild<QScrollArea*>(QString(), Qt::FindDirectChildrenOnly))
+        ->FitInto(room);
     window->layout()->activate();
     const QSize size = window->size().boundedTo(room);
     if (size != window->size()) window->resize(size);
