@@ -1,5 +1,7 @@
 #include "forms/qt/widgets/Inputs.h"
 
+#include "forms/qt/widgets/Swatches.h"
+
 #include <QEvent>
 #include <QListView>
 #include <QPainter>
@@ -40,6 +42,12 @@ ValueBar::ValueBar(QWidget* parent) : QScrollBar(Qt::Horizontal, parent) {
   setInvertedControls(false);
   new WheelGuard(*this);
   new FocusRing(*this);
+}
+
+void ValueBar::paintEvent(QPaintEvent* event) {
+  QScrollBar::paintEvent(event);
+  QPainter painter(this);
+  PaintEdge(painter, rect());
 }
 
 PickBox::PickBox(QWidget* parent) : QComboBox(parent) {

@@ -51,10 +51,14 @@ class FocusRing : public QFocusFrame {
   void paintEvent(QPaintEvent* event) override;
 };
 
-// A scroll bar that a person sets a value with, by the same keys as a slider.
+// A scroll bar that a person sets a value with, by the same keys as a slider. It has an edge: styles draw a
+// scroll bar as a part of what it scrolls.
 class ValueBar : public QScrollBar {
  public:
   explicit ValueBar(QWidget* parent);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
 };
 
 // A combo box that drops down as a list with a scroll bar in every style, also for very many rows.

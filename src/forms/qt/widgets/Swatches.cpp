@@ -2,7 +2,6 @@
 
 #include <QGuiApplication>
 #include <QIconEngine>
-#include <QPainter>
 #include <QPalette>
 
 namespace wheelwright {
@@ -11,13 +10,8 @@ namespace {
 constexpr int kMargin = 2;
 
 void PaintSwatch(QPainter& painter, const QRect& place, const QColor& color) {
-  constexpr float kEdgeOpacity = 0.5F;
-  QColor edge = QGuiApplication::palette().color(QPalette::Text);
-  edge.setAlphaF(kEdgeOpacity);
   if (color.isValid()) painter.fillRect(place, color);
-  painter.setPen(edge);
-  // On a fine screen a line is several dots wide, all of them inside.
-  painter.drawRect(QRectF(place).adjusted(0.5, 0.5, -0.5, -0.5));
+  PaintEdge(painter, place);
 }
 
 class SwatchEngine : public QIconEngine {
@@ -48,6 +42,15 @@ class SwatchEngine : public QIconEngine {
 };
 
 }  // namespace
+
+void PaintEdge(QPainter& painter, const QRect& place) {
+  constexpr float kOpacity = 0.5F;
+  QColor edge = QGuiApplication::palette().color(QPalette::Text);
+  edge.setAlphaF(kOpacity);
+  painter.setPen(edge);
+  // On a fine screen a line is several dots wide, all of them inside.
+  painter.drawRect(QRectF(place).adjusted(0.5, 0.5, -0.5, -0.5));
+}
 
 void ColorArea::Fill(const QColor& color) {
   color_ = color;

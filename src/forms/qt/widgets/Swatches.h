@@ -5,10 +5,14 @@
 
 #include <QColor>
 #include <QIcon>
+#include <QPainter>
 #include <QSize>
 #include <QWidget>
 
 namespace wheelwright {
+
+// A thin line inside the borders of a place, which stands out from light and dark backgrounds.
+void PaintEdge(QPainter& painter, const QRect& place);
 
 // An area in one colour, plain background while there is none.
 class ColorArea : public QWidget {
@@ -27,8 +31,7 @@ class ColorArea : public QWidget {
   QColor color_;
 };
 
-// A square for each colour, side by side. Sharp at every size, with an edge that stands out from light
-// and dark backgrounds.
+// A square for each colour, side by side. Sharp at every size.
 QIcon SwatchIcon(const std::vector<QColor>& colors);
 
 // The size for a list's rows: a little more than the letters beside it, so that the squares of two

@@ -60,14 +60,10 @@ TEST_F(ScrollBarMirrorTest, TheKeysThatPointRightAndUpRaiseIt) {
 }
 
 TEST_F(ScrollBarMirrorTest, TheTabKeyReachesItWhichIsSeen) {
-  QScrollBar plain(Qt::Horizontal, &window);
-  plain.setRange(widget.minimum(), widget.maximum());
-  plain.setPageStep(widget.pageStep());
-  plain.resize(widget.size());
-  EXPECT_EQ(widget.grab().toImage(), plain.grab().toImage());
+  const QImage before = widget.grab().toImage();
   QTest::keyClick(&elsewhere, Qt::Key_Tab);
   EXPECT_TRUE(widget.hasFocus());
-  EXPECT_NE(widget.grab().toImage(), plain.grab().toImage());
+  EXPECT_NE(widget.grab().toImage(), before);
 }
 
 TEST_F(ScrollBarMirrorTest, DraggingRepaintsTheSwatchBeforeTheButtonIsReleased) {

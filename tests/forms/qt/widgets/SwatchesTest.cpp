@@ -77,18 +77,23 @@ TEST_F(SwatchesTest, APairShowsItsTwoColors) {
   EXPECT_EQ(list.iconSize(), SwatchIconSize(list, 2));
 }
 
-TEST_F(SwatchesTest, AnAreaHasAllItsEdges) {
-  main.lstColors.Choose(1);
-  Settle();
-  const QImage image = windows.Of(main.picFarbe).grab().toImage();
+void ExpectAllEdges(const QImage& image) {
   const QPoint last(image.width() - 1, image.height() - 1);
   const QPoint middle = last / 2;
-  EXPECT_EQ(image.pixelColor(middle).name(), "#c86432");
   for (const QPoint edge : {QPoint(0, middle.y()), QPoint(last.x(), middle.y()), QPoint(middle.x(), 0),
                             QPoint(middle.x(), last.y())}) {
     EXPECT_LT(image.pixelColor(edge).lightness(), image.pixelColor(middle).lightness() - 20)
         << edge.x() << ", " << edge.y();
   }
+}
+
+TEST_F(SwatchesTest, AnAreaAndTheBarsOverItHaveAllTheirEdges) {
+  main.lstColors.Choose(1);
+  Settle();
+  const QImage area = windows.Of(main.picFarbe).grab().toImage();
+  EXPECT_EQ(area.pixelColor(area.rect().center()).name(), "#c86432");
+  ExpectAllEdges(area);
+  ExpectAllEdges(windows.Of(main.HScroll3).grab().toImage());
 }
 
 TEST_F(SwatchesTest, OtherListsShowNone) { EXPECT_EQ(BesideThePick(main.cmbAutos), QStringList{"none"}); }
