@@ -8,6 +8,11 @@
 namespace wheelwright {
 namespace {
 
+// An area of colour and a vehicle's pairs take what height is left, but on a high screen not more than so
+// many lines of text.
+constexpr int kMostLines = 18;
+constexpr int kNearlyAll = 99;
+
 QHBoxLayout* Halves(QWidget& page) {
   auto* halves = new QHBoxLayout(&RoomOn(page));
   halves->setContentsMargins(0, 0, 0, 0);
@@ -70,8 +75,11 @@ QLayout* ColorEditor(FrmMain& main, QWidget& page, MirrorSet& mirrors) {
   AddBar(main.lblBlau, main.HScroll3, main.lblBlauWert, *grid, page, mirrors);
   const int below = grid->rowCount();
   for (int row = 0, height = RowHeight(page); row < below; ++row) grid->setRowMinimumHeight(row, height);
-  grid->addWidget(&mirrors.Add(main.picFarbe, &page).Widget(), below, kInputColumn, 1, 2);
-  grid->setRowStretch(below, 1);
+  QWidget& area = mirrors.Add(main.picFarbe, &page).Widget();
+  area.setMaximumHeight(kMostLines * page.fontMetrics().height());
+  grid->addWidget(&area, below, kInputColumn, 1, 2);
+  grid->setRowStretch(below, kNearlyAll);
+  grid->setRowStretch(below + 1, 1);
   return grid;
 }
 
@@ -88,7 +96,11 @@ QWidget* PairList(FrmMain& main, QWidget& page, MirrorSet& mirrors) {
   };
   static_cast<ListBoxMirror&>(mirrors.Of(main.lstCarColors)).ShowColors(colorsOf, 2);
   QWidget& remove = mirrors.Add(main.cmdRemColor, frame).Widget();
-  static_cast<QVBoxLayout*>(frame->layout())->addWidget(&remove, 0, Qt::AlignRight);
+  auto* column = static_cast<QVBoxLayout*>(frame->layout());
+  column->addWidget(&remove, 0, Qt::AlignRight);
+  mirrors.Of(main.lstCarColors).Widget().setMaximumHeight(kMostLines * page.fontMetrics().height());
+  column->setStretch(0, kNearlyAll);
+  column->addStretch(1);
   return frame;
 }
 

@@ -7,8 +7,10 @@
 namespace wheelwright {
 namespace {
 
-// In pixels at 96 dots per inch. The window comes up as small as all this together lets it.
+// In pixels at 96 dots per inch. The window comes up as small as all this together lets it; a small screen
+// may make the lists lower.
 constexpr QSize kExportListSize(145, 251);
+constexpr int kLeastListHeight = 100;
 constexpr QSize kArrowSize(41, 25);
 constexpr QSize kButtonSize(81, 25);
 constexpr int kLabelHeight = 17;
@@ -105,7 +107,11 @@ void LayOutExport(FrmExport& exporter, QWidget* window, MirrorSet& mirrors) {
   column->addLayout(grid, 1);
   column->addLayout(BottomRow(exporter, window, mirrors));
   mirrors.Add(exporter.Spez, window);  // hidden for good, it needs no place
+  window->window()->layout()->activate();
   window->window()->resize(0, 0);
+  for (const MarkList* list : {&exporter.lst1, &exporter.lst2}) {
+    mirrors.Of(*list).Widget().setMinimumHeight(kLeastListHeight);
+  }
 }
 
 }  // namespace wheelwright

@@ -1,6 +1,7 @@
 #include "forms/qt/layout/WindowSet.h"
 
 #include "forms/qt/layout/Layouts.h"
+#include "forms/qt/widgets/ContentArea.h"
 #include "forms/qt/widgets/ShownText.h"
 
 #include <algorithm>
@@ -8,60 +9,11 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QScreen>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QSessionManager>
 #include <QShortcut>
-#include <QTabBar>
-#include <QTabWidget>
 
 namespace wheelwright {
 namespace {
-
-// What is in a window: all of it in sight, but for a screen that hasn't the room.
-class ContentArea : public QScrollArea {
- public:
-  explicit ContentArea(QWidget* window) : QScrollArea(window) {
-    setFrameShape(NoFrame);
-    setFocusPolicy(Qt::NoFocus);
-    setWidgetResizable(true);
-    setWidget(new QWidget);
-    auto* whole = new QVBoxLayout(window);
-    whole->setContentsMargins(0, 0, 0, 0);
-    whole->addWidget(this);
-  }
-
-  void FitInto(QSize room) {
-    room_ = room;
-    updateGeometry();
-  }
-
-  QSize sizeHint() const override { return widget()->sizeHint().expandedTo(Needed()).boundedTo(room_); }
-  QSize minimumSizeHint() const override { return Needed().boundedTo(room_); }
-
- protected:
-  bool event(QEvent* event) override {
-    if (event->type() == QEvent::LayoutRequest) updateGeometry();
-    return QScrollArea::event(event);
-  }
-
- private:
-  // A row of tabs could do with less, by its arrows; only a small screen shall show them.
-  QSize Needed() const {
-    QSize needed = widget()->minimumSizeHint();
-    int least = 0;
-    int whole = 0;
-    for (const auto* tabs : widget()->findChildren<QTabWidget*>()) {
-      least = std::max(least, tabs->minimumSizeHint().width());
-      whole = std::max(whole, tabs->tabBar()->sizeHint().width());
-    }
-    needed.rwidth() += std::max(whole - least, 0);
-    if (needed.height() > room_.height()) needed.rwidth() += verticalScrollBar()->sizeHint().width();
-    return needed;
-  }
-
-  QSize room_{QWIDGETSIZE_MAX, QWIDGETSIZE_MAX};
-};
 
 // What the three real windows have in common: title, coming and going, and the close box.
 class WindowShell : public QWidget {
@@ -108,6 +60,15 @@ class WindowShell : public QWidget {
   EventEdge& edge_;
 };
 
+// The empty widget for all that is in a window.
+QWidget* ContentOf(QWidget& window) {
+  auto* area = new ContentArea;
+  auto* whole = new QVBoxLayout(&window);
+  whole->setContentsMargins(0, 0, 0, 0);
+  whole->addWidget(area);
+  return area->widget();
+}
+
 }  // namespace
 
 WindowSet::WindowSet(Session& session, EventEdge& edge)
@@ -116,9 +77,9 @@ WindowSet::WindowSet(Session& session, EventEdge& edge)
       error_(std::make_unique<WindowShell>(session.error, edge, main_.get())),
       exporter_(std::make_unique<WindowShell>(session.exporter, edge, main_.get())),
       mirrors_(edge) {
-  LayOutMain(session.main, (new ContentArea(main_.get()))->widget(), mirrors_);
-  LayOutError(session.error, (new ContentArea(error_.get()))->widget(), mirrors_);
-  LayOutExport(session.exporter, (new ContentArea(exporter_.get()))->widget(), mirrors_);
+  LayOutMain(session.main, ContentOf(*main_), mirrors_);
+  LayOutError(session.error, ContentOf(*error_), mirrors_);
+  LayOutExport(session.exporter, ContentOf(*exporter_), mirrors_);
   QObject::connect(qApp, &QGuiApplication::commitDataRequest, main_.get(), [this](QSessionManager& ending) {
     if (ending.allowsInteraction() && !main_->close()) ending.cancel();
   });
@@ -126,8 +87,7 @@ WindowSet::WindowSet(Session& session, EventEdge& edge)
 
 void WindowSet::FitInto(QSize room) {
   for (QWidget* window : {main_.get(), error_.get(), exporter_.get()}) {
-    static_cast<ContentArea*>(window->findChild<QScrollArea*>(QString(), Qt::FindDirectChildrenOnly))
-        ->FitInto(room);
+    static_cast<ContentArea*>(window->layout()->itemAt(0)->widget())->FitInto(room);
     window->layout()->activate();
     const QSize size = window->size().boundedTo(room);
     if (size != window->size()) window->resize(size);

@@ -1,5 +1,6 @@
 #include "forms/qt/mirrors/CaptionMirrors.h"
 
+#include "forms/qt/widgets/ContentArea.h"
 #include "forms/qt/widgets/Inputs.h"
 #include "forms/qt/widgets/ShownText.h"
 #include "screen/MainWindow.h"
@@ -101,7 +102,7 @@ void ButtonMirror::FollowContent() { widget_.setText(ShownCaption(plain_.Caption
 TabGroupMirror::TabGroupMirror(TabGroup& group, EventEdge& edge, QWidget* parent)
     : MirrorOf(group, edge, *new QTabWidget(parent)), spoken_(group.Tabs().size()) {
   widget_.setUsesScrollButtons(true);
-  for (std::size_t tab = 0; tab < spoken_.size(); ++tab) widget_.addTab(new QWidget, "");
+  for (std::size_t tab = 0; tab < spoken_.size(); ++tab) widget_.addTab(new ContentArea, "");
   new WheelGuard(*widget_.tabBar());
   new FocusRing(*widget_.tabBar());
   FollowAll();
@@ -109,6 +110,10 @@ TabGroupMirror::TabGroupMirror(TabGroup& group, EventEdge& edge, QWidget* parent
     ByHand([&] { plain_.ClickByHand(tab); });
     Follow(Aspect::Choice);
   });
+}
+
+QWidget& TabGroupMirror::Page(int tab) const {
+  return *static_cast<ContentArea*>(widget_.widget(tab))->widget();
 }
 
 void TabGroupMirror::Name(int tab, QWidget& input) {

@@ -81,7 +81,7 @@ class TabGroupMirror : public MirrorOf<TabGroup, QTabWidget> {
   TabGroupMirror(TabGroup& group, EventEdge& edge, QWidget* parent);
 
   // The empty widget of a page, for its controls to be laid out on.
-  QWidget& Page(int tab) const { return *widget_.widget(tab); }
+  QWidget& Page(int tab) const;
   // Makes a tab's caption the name of an input on its page.
   void Name(int tab, QWidget& input);
 

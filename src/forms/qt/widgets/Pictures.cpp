@@ -38,6 +38,8 @@ void PictureArea::Show(const std::string& file, QPointF place) {
 
 void PictureArea::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
+  // Where a dot of the picture is one of the screen it would only blur.
+  painter.setRenderHint(QPainter::SmoothPixmapTransform, devicePixelRatioF() > 1);
   painter.drawImage(place_, image_);
 }
 

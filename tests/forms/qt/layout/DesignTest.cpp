@@ -19,12 +19,6 @@ class DesignTest : private FontOfDesktop, public RealWindows {
     Activate(window);
   }
 
-  // Neither larger nor able to become smaller.
-  void ExpectSize(const Window& window, QSize size) {
-    EXPECT_EQ(windows.Of(window).size(), size);
-    EXPECT_EQ(windows.Of(window).minimumSizeHint(), size);
-  }
-
   void ExpectPlace(const Control& control, QRect place) {
     EXPECT_EQ(windows.Of(control).geometry(), place) << control.Name();
   }
@@ -32,7 +26,7 @@ class DesignTest : private FontOfDesktop, public RealWindows {
 
 TEST_F(DesignTest, TheExport) {
   Show(test.exporter);
-  ExpectSize(test.exporter, {359, 319});
+  EXPECT_EQ(windows.Of(test.exporter).size(), QSize(359, 319));
   ExpectPlace(test.exporter.lblExportCar, {8, 8, 145, 17});
   ExpectPlace(test.exporter.lblExport, {208, 8, 145, 17});
   ExpectPlace(test.exporter.lst1, {8, 32, 145, 251});

@@ -10,6 +10,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QStyleOptionButton>
 #include <QStyleOptionComboBox>
@@ -102,9 +103,9 @@ void ExpectMargins(const View& view) {
   const int letter = view.window.fontMetrics().height();
   for (const auto* tabs : view.window.findChildren<QTabWidget*>()) {
     if (!tabs->isVisible()) continue;
-    const QWidget& page = *tabs->currentWidget();
-    const QRect room = page.rect().adjusted(letter, letter, -letter, -letter);
-    EXPECT_TRUE(room.contains(page.childrenRect())) << tabs->objectName().toStdString();
+    const auto& page = static_cast<const QScrollArea&>(*tabs->currentWidget());
+    const QRect room = page.viewport()->rect().adjusted(letter, letter, -letter, -letter);
+    EXPECT_TRUE(room.contains(page.widget()->childrenRect())) << tabs->objectName().toStdString();
   }
 }
 
