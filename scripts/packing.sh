@@ -1,4 +1,4 @@
-# Sourced by package and package-windows: what both kinds of packages have in common.
+# Sourced by the scripts that make packages: what both kinds have in common.
 
 # The version of the program in a configured build folder.
 built_version() {

@@ -1,4 +1,4 @@
-# Sourced by package-windows: the static Qt for Windows that the program is linked with, built once into
+# Sourced by package: the static Qt for Windows that the program is linked with, built once into
 # a cache folder outside the repository.
 
 WINDOWS_CACHE=${XDG_CACHE_HOME:-$HOME/.cache}/wheelwright-windows
@@ -55,13 +55,13 @@ build_qt() {
   (fetch_qt)
   rm -rf "$WINDOWS_CACHE/build"
   configure_qt "$1" "$2"
-  nice -n 19 cmake --build "$WINDOWS_CACHE/build" --parallel "${WHEELWRIGHT_QT_JOBS:-$(nproc)}"
+  nice -n 19 cmake --build "$WINDOWS_CACHE/build"
   cmake --install "$WINDOWS_CACHE/build"
   rm -rf "$WINDOWS_CACHE/build" "$WINDOWS_CACHE/source"
 }
 
 # Sets WINDOWS_QT to the folder of the static Qt; builds it there with the given toolchain file if it
-# isn't there yet, which takes some twenty minutes on two cores.
+# isn't there yet, which takes some forty minutes on two cores.
 need_windows_qt() {
   local log=$WINDOWS_CACHE/qt.log
   WINDOWS_QT=$WINDOWS_CACHE/qt-$(qt_version)
