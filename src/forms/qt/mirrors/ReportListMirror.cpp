@@ -85,6 +85,7 @@ class ReportView : public QTreeView {
       : QTreeView(parent), model_(*new ReportModel(list, this)) {
     setModel(&model_);
     setRootIsDecorated(false);
+    setAllColumnsShowFocus(true);
     setItemsExpandable(false);
     setUniformRowHeights(true);
     setItemDelegate(new RowDelegate(this));

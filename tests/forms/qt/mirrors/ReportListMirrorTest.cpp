@@ -110,6 +110,17 @@ TEST_F(ReportListMirrorTest, WholeRowsAreCopiedAsTheyAreRead) {
   EXPECT_TRUE(QGuiApplication::clipboard()->text().endsWith("VAN\tx\ty\n")) << "nothing was marked";
 }
 
+TEST_F(ReportListMirrorTest, TheWholeRowWithTheFocusIsSeen) {
+  AddRows(2);
+  view.setFocus();
+  view.selectionModel()->setCurrentIndex(view.model()->index(0, 0), QItemSelectionModel::NoUpdate);
+  const QImage image = view.viewport()->grab().toImage();
+  const auto color = [&](int row) {
+    return image.pixelColor(view.visualRect(view.model()->index(row, 2)).bottomRight() - QPoint(20, 3));
+  };
+  EXPECT_NE(color(0), color(1));
+}
+
 TEST_F(ReportListMirrorTest, AColumnIsAtLeastAsWideAsItsHeader) {
   report.SetColumn(0, "A header that no column has room for");
   EXPECT_EQ(Widths()[0], view.header()->sectionSizeHint(0));
