@@ -44,6 +44,7 @@ bool ContentArea::event(QEvent* event) {
 void ContentArea::LetInsideGiveWay() {
   constexpr QSize kLeastInside(200, 100);
   const QSize whole = widget()->minimumSizeHint();
+  if (whole.boundedTo(room_) == whole) return;
   QSize inside(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
   if (whole.width() > room_.width()) inside.setWidth(kLeastInside.width());
   if (whole.height() > room_.height()) inside.setHeight(kLeastInside.height());
@@ -59,7 +60,7 @@ QSize ContentArea::Needed() const {
   // A row of tabs could do with less, by its arrows; only a small screen shall show them.
   int least = 0;
   int whole = 0;
-  for (const auto* tabs : widget()->findChildren<QTabWidget*>()) {
+  for (const auto* tabs : widget()->findChildren<QTabWidget*>(Qt::FindDirectChildrenOnly)) {
     least = std::max(least, tabs->minimumSizeHint().width());
     whole = std::max(whole, tabs->tabBar()->sizeHint().width());
   }
