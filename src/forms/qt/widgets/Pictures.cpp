@@ -38,8 +38,9 @@ void PictureArea::Show(const std::string& file, QPointF place) {
 
 void PictureArea::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
-  // Where a dot of the picture is one of the screen it would only blur.
-  painter.setRenderHint(QPainter::SmoothPixmapTransform, devicePixelRatioF() > 1);
+  // Where a dot of the picture is a whole number of the screen's it would only blur.
+  const bool isUneven = devicePixelRatioF() != devicePixelRatio();
+  painter.setRenderHint(QPainter::SmoothPixmapTransform, isUneven);
   painter.drawImage(place_, image_);
 }
 
