@@ -8,9 +8,11 @@ built_version() {
 # Lays out the files of a build folder as users get them, in a new folder. Their times are that of the last
 # commit, so that the same sources make the same packages.
 lay_out_files() {
+  local moment
+  moment=$(commit_time)
   rm -rf "$2"
-  (umask 022 && cmake --install "$1" --strip --prefix "$2" >/dev/null)
-  find "$2" -exec touch --no-dereference --date="@$(commit_time)" {} +
+  (umask 022 && SOURCE_DATE_EPOCH=$moment cmake --install "$1" --strip --prefix "$2" >/dev/null)
+  find "$2" -exec touch --no-dereference --date="@$moment" {} +
 }
 
 commit_time() {
