@@ -321,10 +321,13 @@ TEST_F(SmallScreenTest, NothingMovesUnderTheMouse) {
   test.OpenColors(kColors);
   windows.FitInto({512, 276});
   Settle();
-  QWidget& button = windows.Of(main.cmdDeleteColor);
+  QWidget& button = windows.Of(main.cmdNewColor);
+  QWidget* around = &button;
+  while (qobject_cast<QScrollArea*>(around) == nullptr) around = around->parentWidget();
+  auto& area = static_cast<QScrollArea&>(*around);
+  area.horizontalScrollBar()->setValue(button.mapTo(area.widget(), button.rect().center()).x() + 1);
   const QPoint before = button.mapToGlobal(QPoint());
-  test.desktop.answers = {false};
-  QTest::mousePress(&button, Qt::LeftButton);
+  QTest::mousePress(&button, Qt::LeftButton, {}, button.rect().center() + QPoint(5, 0));
   EXPECT_TRUE(button.hasFocus());
   EXPECT_EQ(button.mapToGlobal(QPoint()), before);
   QTest::mouseRelease(&button, Qt::LeftButton);
